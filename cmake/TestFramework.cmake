@@ -1,0 +1,18 @@
+# GoogleTest from the system where its standard library is ours, from Debian's sources where it is not.
+
+if(TACTIX_LIBCXX)
+  set(TACTIX_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH "GoogleTest's sources")
+  set(INSTALL_GTEST OFF)
+  set(BUILD_GMOCK OFF)
+  set(savedShared ${BUILD_SHARED_LIBS})
+  set(BUILD_SHARED_LIBS OFF)
+  add_subdirectory(${TACTIX_GOOGLETEST_SOURCES} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+  set(BUILD_SHARED_LIBS ${savedShared})
+  foreach(library gtest gtest_main)
+    if(NOT TARGET GTest::${library})
+      add_library(GTest::${library} ALIAS ${library})
+    endif()
+  endforeach()
+else()
+  find_package(GTest REQUIRED)
+endif()
