@@ -1,0 +1,59 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "tactix/platform/Export.h"
+#include "tactix/platform/Object.h"
+#include "tactix/platform/PropertyBag.h"
+#include "tactix/platform/Site.h"
+#include "tactix/platform/Weak.h"
+#include "tactix/platform/widgets/Extender.h"
+
+namespace tactix {
+
+class PropertyTable;
+
+/// Base of the controls. The constructor sets the design state only; then the container calls InitProperties for a new
+/// control, or ReadProperties for a saved one, and from then on the other notifications as they arise.
+class TACTIX_EXPORT Control : public Trackable {
+ public:
+  /// The site must outlive the control, except where a handler destroys both.
+  explicit Control(Site& site);
+  virtual ~Control();
+
+  /// The control as its container sees it. It has its extender, it is not one: a `Visible` or `Enabled` of its own
+  /// hides nothing.
+  tactix::Extender& Extender() { return extender_; }
+  const tactix::Extender& Extender() const { return extender_; }
+  Site& ItsSite() const { return site_; }
+
+  virtual void InitProperties() {}
+  virtual void ReadProperties(PropertyBag& bag);
+  virtual void WriteProperties(PropertyBag& bag);
+  /// The extender's size has changed.
+  virtual void Resized() {}
+  /// The control is shown for the first time, or again. Reaches the controls inside this one.
+  virtual void Displayed();
+  /// The keyboard focus has come to the control from outside it.
+  virtual void GotFocus() {}
+  /// The container's font, colours or mode have changed. Reaches the controls inside this one.
+  virtual void AmbientChanged();
+  /// The control is about to end. Reaches the controls inside this one.
+  virtual void Terminated();
+
+  /// A late-bound object with the control's properties, then its extender's; fails with 91 once the control is gone.
+  ObjectRef Handle() { return extender_.Handle(); }
+
+  /// The control's own properties for late-bound access.
+  virtual const PropertyTable& Properties() const;
+
+ protected:
+  void NotifyChanged(std::string_view propertyName) { site_.PropertyChanged(propertyName); }
+
+ private:
+  Site& site_;
+  tactix::Extender extender_;
+};
+
+}  // namespace tactix

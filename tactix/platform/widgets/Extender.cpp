@@ -1,0 +1,51 @@
+#include "tactix/platform/widgets/Extender.h"
+
+#include "tactix/platform/Control.h"
+#include "tactix/platform/PropertyTable.h"
+
+namespace tactix {
+
+namespace {
+
+/// Names for which the container's view of a control comes before the control's own member of that name.
+bool IsContainersName(std::string_view name) {
+  for (const std::string_view own : {"Left", "Top", "Width", "Height", "Visible"}) {
+    if (SameName(name, own)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+float Extender::ScaleWidth() const { return Width() * TwipsPerUnit() / TwipsPerInnerUnit(); }
+
+float Extender::ScaleHeight() const { return Height() * TwipsPerUnit() / TwipsPerInnerUnit(); }
+
+float Extender::TwipsPerUnit() const { return Owner() ? Widget::TwipsPerUnit() : 1.0F; }
+
+void Extender::DesignSize(float width, float height) {
+  width_ = width;
+  height_ = height;
+}
+
+void Extender::PlaceChanged(bool sizeChanged) {
+  if (sizeChanged) control_.Resized();
+}
+
+bool Extender::ReadMember(std::string_view name, Variant& value) const {
+  const PropertyTable::Row* const row = IsContainersName(name) ? nullptr : control_.Properties().Find(name);
+  if (!row) return Widget::ReadMember(name, value);
+  if (!row->get) return false;
+  value = row->get(control_);
+  return true;
+}
+
+bool Extender::WriteMember(std::string_view name, const Variant& value) {
+  const PropertyTable::Row* const row = IsContainersName(name) ? nullptr : control_.Properties().Find(name);
+  if (!row) return Widget::WriteMember(name, value);
+  if (!row->set) return false;
+  row->set(control_, value);
+  return true;
+}
+
+}  // namespace tactix
