@@ -1,0 +1,64 @@
+#include "tactix/shared/BlockReader.h"
+
+#include <cstddef>
+#include <cstdint>
+
+#include "tactix/platform/Error.h"
+#include "tactix/platform/NumberText.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr std::int16_t AceCountedHigh = 10;  // what an ace adds when it counts 11
+constexpr double FirstTotalWithoutAlternative = 11;
+
+bool HasSecondTotal(const Variant& softTotal) {
+  return softTotal.CountsAsTrue() && softTotal.ToDouble() < FirstTotalWithoutAlternative;
+}
+
+}  // namespace
+
+Variant BlockReader::Value(BlockField field) const {
+  if (block_) return block_->Field(field);
+  if (!object_) throw Error(Error::ObjectNotSet);
+  return object_->Get(NameOf(field));
+}
+
+void BlockReader::AppendText(BlockField field, std::string& out) const {
+  if (block_ && field == BlockField::PlayerName) {
+    out += block_->PlayerName();
+  } else if (block_ && field == BlockField::MidCardsAre) {
+    out += block_->MidCardsAre();
+  } else {
+    out += Value(field).ToText();
+  }
+}
+
+void BlockReader::CopyTo(DecisionBlock& into) const {
+  if (block_) {
+    into = *block_;
+    return;
+  }
+  for (std::size_t i = 0; i < BlockFieldNames.size(); ++i) {
+    const auto field = static_cast<BlockField>(i);
+    into.Field(field, Value(field));
+  }
+}
+
+void DecodeBlock(const BlockReader& from, DecisionBlock& into) { from.CopyTo(into); }
+
+void AppendDecisionPrompt(const BlockReader& block, std::string& out) {
+  const Variant hardTotal = block.Value(BlockField::HardTotal);
+  std::string total = Str(hardTotal);
+  if (HasSecondTotal(block.Value(BlockField::SoftTotal))) {
+    total += " OR ";
+    AppendStr(total, Add(hardTotal, AceCountedHigh));
+  }
+  block.AppendText(BlockField::PlayerName, out);
+  out += " - You have ";
+  out += total;
+  out += "  - Make your Selection";
+}
+
+}  // namespace tactix

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "tactix/platform/Export.h"
+#include "tactix/platform/Object.h"
+#include "tactix/platform/Variant.h"
+#include "tactix/shared/BlockField.h"
+#include "tactix/shared/DecisionBlock.h"
+
+namespace tactix {
+
+/// Reads a decision block's properties one at a time: straight from a DecisionBlock, or by name from any object that
+/// has them. A DecisionBlock must outlive the reader; an object is kept.
+class TACTIX_EXPORT BlockReader {
+ public:
+  explicit BlockReader(const DecisionBlock& block) : block_(&block) {}
+  /// Fails with 424 where the variant holds no object. A null object fails with 91 when it is read.
+  explicit BlockReader(const Variant& thisDCB) : object_(thisDCB.ToObject()) {}
+
+  /// Fails with 438 where the object lacks the property, or as its getter fails.
+  Variant Value(BlockField field) const;
+  /// The value as text, behind what `out` holds; a failure leaves `out` as it was. From a DecisionBlock it allocates
+  /// nothing where the capacity of `out` suffices.
+  void AppendText(BlockField field, std::string& out) const;
+  /// Copies the thirteen properties in the order of BlockField. A failure ends it at that property: those before it are
+  /// copied, the others keep their values. From a DecisionBlock it allocates only where a text outgrows its
+  /// predecessor.
+  void CopyTo(DecisionBlock& into) const;
+
+ private:
+  const DecisionBlock* block_ = nullptr;
+  ObjectRef object_;
+};
+
+/// Copies a block; see BlockReader::CopyTo.
+TACTIX_EXPORT void DecodeBlock(const BlockReader& from, DecisionBlock& into);
+
+/// The prompt of a hand, behind what `out` holds: "Ann - You have  12  - Make your Selection", with " OR " and the soft
+/// total after the hard one when the hand is soft. Reads HardTotal, SoftTotal and PlayerName in this order. A failure
+/// leaves `out` as it was.
+TACTIX_EXPORT void AppendDecisionPrompt(const BlockReader& block, std::string& out);
+
+}  // namespace tactix
