@@ -1,0 +1,138 @@
+#include "tactix/decision/AdviceButton.h"
+
+#include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/Enumerations.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr float DesignWidth = 2415;
+constexpr float DesignHeight = 870;
+constexpr float SizeOfFont = 8.25F;
+constexpr std::array<std::string_view, 5> BlinkCaptions = {"&Never", "-", "&Every Time", "-", "1st &Time this Hand"};
+
+}  // namespace
+
+AdviceButton::AdviceButton(Site& site)
+    : Control(site), innerSite_(site), Children(site, innerSite_), blinker_(*this, Children.BlinkTimer) {
+  Extender().DesignSize(DesignWidth, DesignHeight);
+  Extender().Add(Children.StrategyListBox.Extender(), "StrategyListBox");
+  Extender().Add(Children.cmdAdviceButton, "cmdAdviceButton");
+  Children.cmdAdviceButton.Caption("&Ask Kelvo for Advice");
+  Children.cmdAdviceButton.Font({"Comic Sans MS", SizeOfFont});
+  Children.StrategyListBox.InitProperties();
+  Children.StrategyListBox.Extender().Visible(false);
+  BuildMenu();
+  Arrange();
+
+  Children.cmdAdviceButton.Clicked.Connect([this] { Events.Click.Raise(); });
+  Children.cmdAdviceButton.MousePressed.Connect([this](const MouseState& mouse) {
+    if ((mouse.button & RightButton) == 0) return;
+    const PushButton& button = Children.cmdAdviceButton;
+    ItsSite().PopUp(Children.mnuAdviceOptions, Extender(), button.Left() + mouse.x, button.Top() + mouse.y);
+  });
+  Children.StrategyListBox.Events.StrategySelectionChanged.Connect(
+      [this](const std::int32_t& strategy) { StrategySelected(strategy); });
+}
+
+AdviceButton::~AdviceButton() = default;
+
+void AdviceButton::BuildMenu() {
+  Children.mnuAdviceOptions.Add(Children.mnuBlinkAdviceButton);
+  Children.mnuAdviceOptions.Add(Children.mnuSeparator);
+  Children.mnuAdviceOptions.Add(Children.mnuSelectStrategy);
+  for (std::size_t i = 0; i < Children.mnuButtonBlink.size(); ++i) {
+    MenuEntry& entry = Children.mnuButtonBlink[i];
+    const auto mode = static_cast<std::int16_t>(i);
+    entry.Caption(BlinkCaptions[i]);
+    entry.Index(mode);
+    entry.Checked(mode == blinkMode_);
+    entry.Chosen.Connect([this, mode] { ChooseBlinkMode(mode); });
+    Children.mnuBlinkAdviceButton.Add(entry);
+  }
+  Children.mnuSelectStrategy.Chosen.Connect([this] { SelectStrategy(); });
+}
+
+void AdviceButton::Arrange() {
+  // The open list takes the lower half; the button has the rest, or all.
+  tactix::Extender& list = Children.StrategyListBox.Extender();
+  const float width = Extender().ScaleWidth();
+  const float height = Extender().ScaleHeight();
+  const float half = height / 2;
+  Children.cmdAdviceButton.Place(0, 0, width, list.Visible() ? half : height);
+  list.Place(0, half, width, height - half);
+}
+
+ObjectRef AdviceButton::AdviceStrategyList(const ObjectRef& thisStrategyList) {
+  ObjectRef same = thisStrategyList;
+  Children.StrategyListBox.UseThisStrategyList(same);
+  return same;
+}
+
+void AdviceButton::BlinkIfNecessary() {
+  if (blinkMode_ == static_cast<std::int16_t>(BlinkPossibilities::AdviceButtonBlinkAlways)) {
+    blinker_.Flash(Children.cmdAdviceButton.Handle());
+  }
+}
+
+void AdviceButton::BlinkTime(float timeAmount) { blinker_.Wait(timeAmount); }
+
+void AdviceButton::FlashObject(const ObjectRef& buttonToFlash) { blinker_.Flash(buttonToFlash); }
+
+const std::string& AdviceButton::Caption() const { return Children.cmdAdviceButton.Caption(); }
+
+void AdviceButton::Caption(std::string_view caption) { Children.cmdAdviceButton.Caption(caption); }
+
+bool AdviceButton::DEFAULT() const { return Children.cmdAdviceButton.DEFAULT(); }
+
+void AdviceButton::DEFAULT(bool isDefault) { Children.cmdAdviceButton.DEFAULT(isDefault); }
+
+void AdviceButton::ChooseBlinkMode(std::int16_t mode) {
+  Children.mnuButtonBlink[static_cast<std::size_t>(blinkMode_)].Checked(false);
+  blinkMode_ = mode;
+  Children.mnuButtonBlink[static_cast<std::size_t>(blinkMode_)].Checked(true);
+}
+
+void AdviceButton::SelectStrategy() {
+  FillTheListOnce();
+  Children.StrategyListBox.Extender().Visible(true);
+  Arrange();
+  Events.StrategyListBoxVisibilityChanged.Raise(true);
+}
+
+void AdviceButton::FillTheListOnce() {
+  StrategyList& list = Children.StrategyListBox;
+  if (list.Children.StrategyListBox.ListCount() > 0) return;
+  try {
+    list.LoadStrategiesFromIniFile();
+  } catch (const Error& error) {
+    // Without a catalogue the list opens empty, for a host that adds rows of its own.
+    if (error.Code() != Error::ObjectNotSet) throw;
+  }
+}
+
+void AdviceButton::StrategySelected(std::int32_t strategy) {
+  const Weak<AdviceButton> self(this);
+  Children.StrategyListBox.Extender().Visible(false);
+  if (!self) return;
+  Arrange();
+  Events.AdviceStrategySelected.Raise(Variant(strategy));
+}
+
+void AdviceButton::Resized() { Arrange(); }
+
+void AdviceButton::GotFocus() { BlinkIfNecessary(); }
+
+const PropertyTable& AdviceButton::Properties() const {
+  using Self = AdviceButton;
+  static const PropertyTable table =
+      PropertyTable()
+          .Property<Self>("Caption", &Self::Caption, &Self::Caption)
+          .Property<Self>("DEFAULT", &Self::DEFAULT, &Self::DEFAULT)
+          .Property<Self>("Enabled", &Self::Enabled, &Self::Enabled)
+          .Property<Self>("WhichStrategyToUse", &Self::WhichStrategyToUse, &Self::WhichStrategyToUse);
+  return table;
+}
+
+}  // namespace tactix

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tactix/platform/Control.h"
+#include "tactix/platform/Event.h"
+#include "tactix/platform/Export.h"
+#include "tactix/platform/Object.h"
+#include "tactix/platform/Timer.h"
+
+namespace tactix {
+
+/// Waits on a control's blink timer while the user interface goes on running, and flashes elements that way.
+class TACTIX_EXPORT Blinker {
+ public:
+  Blinker(Control& control, Timer& timer);
+
+  /// Waits that many seconds. Waits nest: a flash that starts during a flash runs inside it. A negative or non-finite
+  /// time fails with 380. False when the control has been destroyed meanwhile.
+  bool Wait(float seconds);
+
+  /// Four rounds of hidden 0.2 s and shown 0.2 s, then the element becomes the default button. It ends shown even if it
+  /// was hidden before. The element needs the properties "Visible" and "DEFAULT"; null fails with 91. False when the
+  /// control has been destroyed meanwhile.
+  bool Flash(const ObjectRef& element);
+
+ private:
+  Control& control_;
+  Timer& timer_;
+  ScopedConnection tick_;
+  bool elapsed_ = false;
+};
+
+}  // namespace tactix
