@@ -1,0 +1,175 @@
+#include "trainer/engine/Session.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace trainer::engine {
+namespace {
+
+/// Deals until the player has a decision to make.
+void DealToADecision(Session& session) {
+  do session.Deal();
+  while (session.IsOver());
+}
+
+Decision AnotherLegalPlay(const Session& session) {
+  const LegalPlays legal = session.CurrentRound().Legal();
+  const Decision hit = Decision::Hit;
+  return session.Advised() != hit && legal.Allows(hit) ? hit : Decision::Stand;
+}
+
+TEST(SessionTest, StartsWithoutARound) {
+  const Session session(Rules{}, 1);
+  EXPECT_FALSE(session.HasRound());
+  EXPECT_TRUE(session.IsOver());
+  EXPECT_THROW((void)session.CurrentRound(), std::logic_error);
+  EXPECT_THROW((void)session.Advised(), std::logic_error);
+  EXPECT_EQ(session.CurrentTally().CorrectPercent(), 0.0);
+}
+
+TEST(SessionTest, JudgesBySomeStrategyAndCounts) {
+  Session session(Rules{}, 7);
+  DealToADecision(session);
+  const Decision advised = session.Advised();
+  const auto right = session.Decide(advised);
+  ASSERT_TRUE(right);
+  EXPECT_TRUE(right->IsRight());
+  EXPECT_EQ(right->advised, advised);
+  DealToADecision(session);
+  const auto wrong = session.Decide(AnotherLegalPlay(session));
+  ASSERT_TRUE(wrong);
+  EXPECT_FALSE(wrong->IsRight());
+  EXPECT_EQ(session.CurrentTally().decisions, 2);
+  EXPECT_EQ(session.CurrentTally().correct, 1);
+  EXPECT_DOUBLE_EQ(session.CurrentTally().CorrectPercent(), 50.0);
+}
+
+TEST(SessionTest, RefusesWhatIsNotLegalAndChangesNothing) {
+  Session session(Rules{}, 3);
+  EXPECT_FALSE(session.Decide(Decision::Hit)) << "before the first deal";
+  DealToADecision(session);
+  while (session.CurrentRound().Legal().Allows(Decision::Split)) DealToADecision(session);
+  const auto cards = session.TheShoe().DealtCount();
+  EXPECT_FALSE(session.Decide(Decision::Split));
+  EXPECT_EQ(session.TheShoe().DealtCount(), cards);
+  EXPECT_EQ(session.CurrentTally().decisions, 0);
+  while (!session.IsOver()) session.Decide(Decision::Stand);
+  EXPECT_FALSE(session.Decide(Decision::Hit)) << "after the round";
+}
+
+TEST(SessionTest, CountsEachHandOnceAndItsMoney) {
+  Session session(Rules{}, 11);
+  Money net = 0;
+  for (int i = 1; i <= 200; ++i) {
+    session.Deal();
+    while (!session.IsOver()) session.Decide(session.Advised());
+    net += session.CurrentRound().Net();
+    ASSERT_EQ(session.CurrentTally().hands, i);
+    ASSERT_EQ(session.CurrentTally().net, net);
+  }
+  EXPECT_EQ(session.CurrentTally().decisions, session.CurrentTally().correct);
+}
+
+TEST(SessionTest, TheSameSeedGivesTheSameSession) {
+  Session a(Rules{}, 21);
+  Session b(Rules{}, 21);
+  for (int i = 0; i < 50; ++i) {
+    a.Deal();
+    b.Deal();
+    while (!a.IsOver()) {
+      a.Decide(a.Advised());
+      b.Decide(b.Advised());
+    }
+    ASSERT_TRUE(b.IsOver());
+  }
+  EXPECT_EQ(a.CurrentTally().net, b.CurrentTally().net);
+  EXPECT_EQ(a.TheShoe().DealtCount(), b.TheShoe().DealtCount());
+}
+
+TEST(SessionTest, FollowsTheStrategyItIsGiven) {
+  Session session(Rules{}, 5);
+  EXPECT_THROW(session.Follow(nullptr), std::invalid_argument);
+  session.Follow(std::make_shared<NeverBust>());
+  int standsOnStiffHands = 0;
+  for (int i = 0; i < 100; ++i) {
+    DealToADecision(session);
+    const Hand& hand = session.CurrentRound().ActiveHand().hand;
+    if (!hand.IsSoft() && hand.Total() >= 12) {
+      ++standsOnStiffHands;
+      ASSERT_EQ(session.Advised(), Decision::Stand) << hand.Total();
+    }
+  }
+  EXPECT_GT(standsOnStiffHands, 10);
+}
+
+TEST(SessionTest, ShufflesAfterTheCutCardOnly) {
+  Session session(Rules{.decks = 1}, 9);
+  std::size_t dealt = 0;
+  int shuffles = 0;
+  for (int i = 0; i < 60; ++i) {
+    const bool due = session.TheShoe().NeedsShuffle();
+    session.Deal();
+    EXPECT_EQ(session.TheShoe().DealtCount() < dealt, due);
+    if (due) ++shuffles;
+    while (!session.IsOver()) session.Decide(Decision::Stand);
+    dealt = session.TheShoe().DealtCount();
+  }
+  EXPECT_GT(shuffles, 3);
+}
+
+TEST(SessionTest, ScoresAHitCardPredictionWithTheCardThatCame) {
+  Session session(Rules{}, 13);
+  int scored = 0;
+  for (int i = 0; i < 60; ++i) {
+    DealToADecision(session);
+    session.Predictions().PredictHitCard(CardRange::High);
+    const HandPlace place = session.CurrentRound().ActivePlace();
+    const auto judged = session.Decide(Decision::Hit);
+    ASSERT_TRUE(judged);
+    ASSERT_TRUE(judged->hitCardPrediction.has_value());
+    const auto hands = session.CurrentRound().HandsOf(place.seat);
+    const Rank drawn = hands[place.hand].hand.Cards()[2].rank;
+    ASSERT_EQ(*judged->hitCardPrediction, RangeOf(drawn) == CardRange::High);
+    ++scored;
+  }
+  EXPECT_EQ(session.Predictions().Made(), scored);
+}
+
+TEST(SessionTest, ScoresAHoleCardPredictionWhenTheRoundIsOver) {
+  Session session(Rules{}, 17);
+  for (int i = 0; i < 20; ++i) {
+    DealToADecision(session);
+    session.Predictions().PredictHoleCard(CardRange::Low);
+    std::optional<bool> scored;
+    while (!session.IsOver()) {
+      ASSERT_EQ(scored, std::nullopt);
+      scored = session.Decide(Decision::Stand)->holeCardPrediction;
+    }
+    const Rank hole = session.CurrentRound().DealerHand().Cards()[1].rank;
+    ASSERT_EQ(scored, RangeOf(hole) == CardRange::Low);
+  }
+}
+
+TEST(SessionTest, TheHoleCardIsNotSeenForTheTensRatio) {
+  for (std::uint64_t seed = 1; seed < 40; ++seed) {
+    Session session(Rules{.decks = 1}, seed);
+    session.Deal();
+    if (session.IsOver()) continue;
+    std::vector<Card> seen;
+    for (const Card card : session.CurrentRound().ActiveHand().hand.Cards()) seen.push_back(card);
+    seen.push_back(session.CurrentRound().DealerHand().Cards()[0]);
+    EXPECT_EQ(session.PredictTensRatio(true), TensRatio(1, seen) > FullDeckTensRatio) << seed;
+  }
+}
+
+TEST(SessionTest, BurnsACard) {
+  Session session(Rules{}, 2);
+  const auto left = session.TheShoe().RemainingCount();
+  session.Burn();
+  EXPECT_EQ(session.TheShoe().RemainingCount(), left - 1);
+}
+
+}  // namespace
+}  // namespace trainer::engine

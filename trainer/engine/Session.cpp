@@ -1,0 +1,87 @@
+#include "trainer/engine/Session.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace trainer::engine {
+
+namespace {
+
+/// A player sits down at a table whose rules are in order.
+const Rules& Checked(const Rules& rules) {
+  Validate(rules);
+  return rules;
+}
+
+}  // namespace
+
+Session::Session(const Rules& rules, std::uint64_t seed, Money bet)
+    : rules_(Checked(rules)), bet_(bet), shoe_(rules.decks, seed), strategy_(std::make_shared<BasicStrategy>()) {}
+
+void Session::Deal() {
+  predictions_.Forget();
+  if (shoe_.NeedsShuffle()) shoe_.Shuffle();
+  isCounted_ = false;
+  round_.emplace(rules_, shoe_, std::vector<Money>{bet_});
+  CountIfOver();
+}
+
+const Round& Session::CurrentRound() const {
+  if (!round_) throw std::logic_error("no round has been dealt");
+  return *round_;
+}
+
+Decision Session::Advised() const {
+  const Round& round = CurrentRound();
+  return strategy_->Advise(round.ActiveHand().hand, round.UpCard(), round.Legal(), rules_);
+}
+
+std::optional<Judgement> Session::Decide(Decision decision) {
+  if (IsOver() || !round_->Legal().Allows(decision)) return std::nullopt;
+  Judgement judgement{Advised(), decision, std::nullopt, std::nullopt};
+  const HandPlace place = round_->ActivePlace();
+  round_->Play(decision);
+  if (decision == Decision::Hit || decision == Decision::Double) {
+    judgement.hitCardPrediction =
+        predictions_.SeeHitCard(round_->HandsOf(place.seat)[place.hand].hand.Cards().back().rank);
+  }
+  ++tally_.decisions;
+  if (judgement.IsRight()) ++tally_.correct;
+  judgement.holeCardPrediction = SeeHoleCardIfOver();
+  CountIfOver();
+  return judgement;
+}
+
+std::optional<bool> Session::SeeHoleCardIfOver() {
+  return round_->IsOver() ? predictions_.SeeHoleCard(round_->DealerHand().Cards()[1].rank) : std::nullopt;
+}
+
+void Session::CountIfOver() {
+  if (!round_->IsOver() || isCounted_) return;
+  isCounted_ = true;
+  ++tally_.hands;
+  tally_.net += round_->Net();
+  predictions_.Forget();
+}
+
+void Session::Follow(std::shared_ptr<const Strategy> strategy) {
+  if (!strategy) throw std::invalid_argument("a session needs a strategy to judge by");
+  strategy_ = std::move(strategy);
+}
+
+Card Session::Burn() { return shoe_.Draw(); }
+
+bool Session::PredictTensRatio(bool high) {
+  const auto dealt = shoe_.Dealt();
+  std::vector<Card> seen(dealt.begin(), dealt.end());
+  if (!IsOver()) {
+    // The player has not seen a hole card that is still face down.
+    const auto hole = std::find(seen.begin(), seen.end(), round_->DealerHand().Cards()[1]);
+    if (hole != seen.end()) seen.erase(hole);
+  }
+  return predictions_.PredictTensRatio(high, rules_.decks, seen);
+}
+
+}  // namespace trainer::engine

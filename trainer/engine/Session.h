@@ -1,0 +1,86 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "trainer/engine/Predictions.h"
+#include "trainer/engine/Round.h"
+#include "trainer/engine/Rules.h"
+#include "trainer/engine/Shoe.h"
+#include "trainer/engine/Strategy.h"
+
+namespace trainer::engine {
+
+/// A decision, judged by the strategy that gave advice when it was made.
+struct Judgement {
+  Decision advised;
+  Decision chosen;
+  std::optional<bool> hitCardPrediction;   ///< right or wrong, where one was made and a card came
+  std::optional<bool> holeCardPrediction;  ///< the same for the hole card, once the round is over
+
+  [[nodiscard]] bool IsRight() const { return advised == chosen; }
+};
+
+/// What a player has done since the session began.
+struct Tally {
+  int hands = 0;
+  int decisions = 0;
+  int correct = 0;
+  Money net = 0;
+
+  /// 0 ... 100; 0 before the first decision.
+  [[nodiscard]] double CorrectPercent() const { return decisions == 0 ? 0.0 : 100.0 * correct / decisions; }
+};
+
+/// One player at one table with one shoe: deals round after round, judges each decision and keeps the tally.
+class Session {
+ public:
+  /// Throws std::invalid_argument for rules or a bet that Round refuses.
+  Session(const Rules& rules, std::uint64_t seed, Money bet = 1000);
+
+  /// The next round; after the cut card, from a new shuffle. What is left of the last round is given up.
+  void Deal();
+
+  /// False before the first deal.
+  [[nodiscard]] bool HasRound() const { return round_.has_value(); }
+  /// True before the first deal and between rounds: nothing is to be decided.
+  [[nodiscard]] bool IsOver() const { return !round_ || round_->IsOver(); }
+  /// Throws std::logic_error before the first deal.
+  [[nodiscard]] const Round& CurrentRound() const;
+
+  /// What the strategy advises for the active hand. Throws std::logic_error when the round is over.
+  [[nodiscard]] Decision Advised() const;
+  /// Plays and judges the decision; nothing, and no change, if it is not legal or the round is over.
+  std::optional<Judgement> Decide(Decision decision);
+
+  /// The strategy that advises from now on; basic strategy at first. It must not be null.
+  void Follow(std::shared_ptr<const Strategy> strategy);
+
+  /// Burns a card off the shoe.
+  Card Burn();
+
+  engine::Predictions& Predictions() { return predictions_; }
+  [[nodiscard]] const engine::Predictions& Predictions() const { return predictions_; }
+  /// Whether the tens ratio of the cards that the player has not seen is high, or low; judged at once.
+  bool PredictTensRatio(bool high);
+
+  [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
+  [[nodiscard]] const Rules& TheRules() const { return rules_; }
+  [[nodiscard]] const Shoe& TheShoe() const { return shoe_; }
+
+ private:
+  void CountIfOver();
+  std::optional<bool> SeeHoleCardIfOver();
+
+  Rules rules_;
+  Money bet_;
+  Shoe shoe_;
+  std::shared_ptr<const Strategy> strategy_;
+  std::optional<Round> round_;
+  engine::Predictions predictions_;
+  Tally tally_;
+  bool isCounted_ = false;
+};
+
+}  // namespace trainer::engine
