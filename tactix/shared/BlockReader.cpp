@@ -35,18 +35,16 @@ void BlockReader::AppendText(BlockField field, std::string& out) const {
   }
 }
 
-void BlockReader::CopyTo(DecisionBlock& into) const {
-  if (block_) {
-    into = *block_;
+void DecodeBlock(const BlockReader& from, DecisionBlock& into) {
+  if (from.block_) {
+    into = *from.block_;
     return;
   }
   for (std::size_t i = 0; i < BlockFieldNames.size(); ++i) {
     const auto field = static_cast<BlockField>(i);
-    into.Field(field, Value(field));
+    into.Field(field, from.Value(field));
   }
 }
-
-void DecodeBlock(const BlockReader& from, DecisionBlock& into) { from.CopyTo(into); }
 
 void AppendDecisionPrompt(const BlockReader& block, std::string& out) {
   const Variant hardTotal = block.Value(BlockField::HardTotal);

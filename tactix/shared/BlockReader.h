@@ -23,17 +23,16 @@ class TACTIX_EXPORT BlockReader {
   /// The value as text, behind what `out` holds; a failure leaves `out` as it was. From a DecisionBlock it allocates
   /// nothing where the capacity of `out` suffices.
   void AppendText(BlockField field, std::string& out) const;
-  /// Copies the thirteen properties in the order of BlockField. A failure ends it at that property: those before it are
-  /// copied, the others keep their values. From a DecisionBlock it allocates only where a text outgrows its
-  /// predecessor.
-  void CopyTo(DecisionBlock& into) const;
 
  private:
+  friend TACTIX_EXPORT void DecodeBlock(const BlockReader& from, DecisionBlock& into);
+
   const DecisionBlock* block_ = nullptr;
   ObjectRef object_;
 };
 
-/// Copies a block; see BlockReader::CopyTo.
+/// Copies the thirteen properties in the order of BlockField. A failure ends it at that property: those before it are
+/// copied, the others keep their values. From a DecisionBlock it allocates only where a text outgrows its predecessor.
 TACTIX_EXPORT void DecodeBlock(const BlockReader& from, DecisionBlock& into);
 
 /// The prompt of a hand, behind what `out` holds: "Ann - You have  12  - Make your Selection", with " OR " and the soft

@@ -174,7 +174,8 @@ TEST(ExtenderTest, TheControlsOwnFlagsHideNothing) {
 TEST(NestedSiteTest, TakesFromTheOuterSiteWhatIsNotItsOwn) {
   HeadlessSite outer;
   NestedSite middle(outer);
-  NestedSite site(middle);
+  Site& outerOfSite = middle;
+  NestedSite site(outerOfSite);
   outer.AmbientFont({"Liberation Sans", 9, false, false});
   outer.AmbientForeColor(1);
   outer.AmbientBackColor(2);

@@ -67,6 +67,10 @@ class HeadlessRobot final : public Robot {
     if (window_) window_->Advance(milliseconds);
   }
 
+  void OnPropertyChanged(const std::function<void()>& handler) override {
+    if (window_) window_->OnPropertyChanged([handler](std::string_view) { handler(); });
+  }
+
   int Beeps() const override { return window_ ? beeps_ + window_->Beeps() : beeps_; }
 
   std::vector<std::string> Changes() const override {

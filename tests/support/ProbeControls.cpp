@@ -6,23 +6,22 @@
 
 namespace tactix::tests {
 
-void NotingControl::Note(const char* what) {
-  if (OnNote) OnNote(who_ + ": " + what);
+bool NotingControl::Note(const char* what) {
+  const Weak<NotingControl> self(this);
+  if (const auto note = OnNote) note(who_ + ": " + what);
+  return static_cast<bool>(self);
 }
 
 void NotingControl::Displayed() {
-  Note("Displayed");
-  Control::Displayed();
+  if (Note("Displayed")) Control::Displayed();
 }
 
 void NotingControl::AmbientChanged() {
-  Note("AmbientChanged");
-  Control::AmbientChanged();
+  if (Note("AmbientChanged")) Control::AmbientChanged();
 }
 
 void NotingControl::Terminated() {
-  Note("Terminated");
-  Control::Terminated();
+  if (Note("Terminated")) Control::Terminated();
 }
 
 InnerProbe::InnerProbe(Site& site) : NotingControl(site, "inner") {

@@ -33,7 +33,8 @@ class NotingControl : public Control {
   std::function<void(std::string)> OnNote;
 
  private:
-  void Note(const char* what);
+  /// False when the control no longer exists.
+  bool Note(const char* what);
 
   std::string who_;
 };

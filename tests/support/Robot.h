@@ -52,6 +52,8 @@ class Robot {
   virtual void After(std::int64_t milliseconds, std::function<void()> action) = 0;
   /// Lets time pass.
   virtual void Wait(std::int64_t milliseconds) = 0;
+  /// Runs inside every property-changed notice, after it was recorded. A robot that cannot do so never runs it.
+  virtual void OnPropertyChanged(const std::function<void()>& /*handler*/) {}
 
   // What can be seen and heard.
   virtual int Beeps() const = 0;

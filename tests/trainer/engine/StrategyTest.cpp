@@ -71,13 +71,12 @@ TEST(BasicStrategyTest, WithNothingButHitAndStandItPlaysTheTotal) {
     const char* oneDeckS17 = nullptr;
   };
   const Row rows[] = {
-      {"2 2", "HHHHHHHHHH"},   {"4 4", "HHHHHHHHHH"},   {"3 2 4", "HHHHHHHHHH"},
-      {"5 5", "HHHHHHHHHH"},   {"2 3 6", "HHHHHHHHHH"}, {"6 6", "HHSSSHHHHH"},
-      {"2 3 7", "HHSSSHHHHH"}, {"2 3 8", "SSSSSHHHHH"}, {"7 4 3", "SSSSSHHHHH"},
-      {"7 5 3", "SSSSSHHHHH"}, {"8 8", "SSSSSHHHHH"},   {"T 4 2", "SSSSSHHHHH"},
-      {"T 4 3", "SSSSSSSSSS"}, {"9 9", "SSSSSSSSSS"},   {"T T", "SSSSSSSSSS"},
-      {"T 5 6", "SSSSSSSSSS"}, {"A A", "HHHHHHHHHH"},   {"A A A", "HHHHHHHHHH"},
-      {"A 2 2", "HHHHHHHHHH"}, {"A 2 4", "HHHHHHHHHH"}, {"A 2 5", "SSSSSSSHHH", "SSSSSSSHHS"},
+      {"2 2", "HHHHHHHHHH"},   {"4 4", "HHHHHHHHHH"},   {"3 2 4", "HHHHHHHHHH"}, {"5 5", "HHHHHHHHHH"},
+      {"2 3 6", "HHHHHHHHHH"}, {"6 6", "HHSSSHHHHH"},   {"2 3 7", "HHSSSHHHHH"}, {"2 3 8", "SSSSSHHHHH"},
+      {"7 4 3", "SSSSSHHHHH"}, {"7 5 3", "SSSSSHHHHH"}, {"8 8", "SSSSSHHHHH"},   {"T 4 2", "SSSSSHHHHH"},
+      {"T 4 3", "SSSSSSSSSS"}, {"9 9", "SSSSSSSSSS"},   {"T T", "SSSSSSSSSS"},   {"T 5 6", "SSSSSSSSSS"},
+      {"A A", "HHHHHHHHHH"},   {"A 2", "HHHHHHHHHH"},   {"A 3", "HHHHHHHHHH"},   {"A 5", "HHHHHHHHHH"},
+      {"A A A", "HHHHHHHHHH"}, {"A 2 2", "HHHHHHHHHH"}, {"A 2 4", "HHHHHHHHHH"}, {"A 2 5", "SSSSSSSHHH", "SSSSSSSHHS"},
       {"A 2 6", "SSSSSSSSSS"}, {"A 2 7", "SSSSSSSSSS"}, {"A 2 8", "SSSSSSSSSS"},
   };
   const BasicStrategy strategy;
@@ -122,6 +121,7 @@ TEST(BasicStrategyTest, TakesTheNextBestPlayWhereTheBestIsNotLegal) {
       {"fours that can't split are 8", "4 4", OneDeck, NoSplit, "HHHDDHHHHH"},
       {"sixes that can't split are 12", "6 6", S17, NoSplit, "HHSSSHHHHH"},
       {"sevens of one deck that can't surrender", "7 7", OneDeck, NoSurrender, "PPPPPPPHSH"},
+      {"sevens of one deck that can't surrender, H17", "7 7", OneDeckH17, NoSurrender, "PPPPPPPHSH"},
       {"nines that can't split stand", "9 9", S17, NoSplit, "SSSSSSSSSS"},
       {"aces that can't split are soft 12", "A A", S17, NoSplit, "HHHHDHHHHH"},
       {"aces of two decks that can't split", "A A", TwoDecks, NoSplit, "HHHDDHHHHH"},

@@ -1,0 +1,18 @@
+#include "tactix/companion/Companion.h"
+
+#include <memory>
+
+#include "tactix/companion/EmbeddedStrategies.h"
+#include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/strategy/StrategyListData.h"
+
+namespace tactix::companion {
+
+void Install() {
+  StrategyListData::CreateCatalogueWith(
+      [] { return std::make_shared<IniStrategyCatalogue>(DefaultStrategies(), DefaultStrategiesName); });
+}
+
+std::string_view DefaultStrategies() { return EmbeddedStrategies(); }
+
+}  // namespace tactix::companion

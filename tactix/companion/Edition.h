@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string_view>
+
+#include "tactix/platform/Export.h"
+#include "tactix/platform/Object.h"
+
+namespace tactix::companion {
+
+/// The application's edition, which decision controls ask for by name: property `thisKelvoEdition`, method `Show`.
+class TACTIX_EXPORT Edition : public Object {
+ public:
+  /// May change the flag, as the caller of Show sees it.
+  using ShowFunction = std::function<void(std::int16_t& modalFlag)>;
+
+  Edition() = default;
+  explicit Edition(std::int16_t edition) : thisKelvoEdition_(edition) {}
+
+  /// The edition's number, 0 by default. Nothing in the library depends on it.
+  std::int16_t thisKelvoEdition() const { return thisKelvoEdition_; }
+  void thisKelvoEdition(std::int16_t edition) { thisKelvoEdition_ = edition; }
+
+  /// What Show does; nothing by default.
+  void WhenShown(ShowFunction show);
+  /// Shows what the host has for it: an About box, say. The meaning of the flag is the host's.
+  void Show(std::int16_t& modalFlag);
+
+  Variant Get(std::string_view name) override;
+  void Put(std::string_view name, const Variant& value) override;
+  /// `Show` takes the flag and nothing else; any other number of arguments fails with 5.
+  Variant Call(std::string_view name, std::span<Variant> arguments) override;
+
+ private:
+  std::int16_t thisKelvoEdition_ = 0;
+  ShowFunction show_;
+};
+
+}  // namespace tactix::companion

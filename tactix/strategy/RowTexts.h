@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+namespace tactix {
+
+/// What lists show for a strategy that cannot be used; a pick of such a row is refused.
+inline constexpr std::string_view NotPresentText = "Not Present";
+/// What lists show for the seat that nobody plays.
+inline constexpr std::string_view EmptySeatText = "Empty Seat";
+/// What a list shows while no row is selected.
+inline constexpr std::string_view SelectAStrategyText = "Select a Strategy";
+
+}  // namespace tactix

@@ -1,0 +1,86 @@
+#include "tactix/strategy/StrategyListData.h"
+
+#include <utility>
+
+#include "tactix/platform/Error.h"
+#include "tactix/platform/Utf8.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr char32_t ShiftDistance = 10;
+constexpr std::size_t UnshiftedWidth = 65;
+
+struct Shared {
+  std::shared_ptr<StrategyCatalogue> catalogue;
+  StrategyListData::CatalogueFactory createCatalogue;
+  DescriptionBuffer buffer;
+};
+
+Shared& TheShared() {
+  static Shared shared;
+  return shared;
+}
+
+char32_t Unshift(const Utf8Character& character) {
+  if (!character.wellFormed) return ReplacementCharacter;
+  if (character.code < ShiftDistance) throw Error(Error::InvalidProcedureCall);
+  return character.code - ShiftDistance;
+}
+
+}  // namespace
+
+void DescriptionBuffer::Write(std::string_view text) {
+  std::string written;  // apart from text_, which `text` may be a piece of
+  written.reserve(Width);
+  std::size_t count = 0;
+  for (; count < Width && !text.empty(); ++count) {
+    const Utf8Character character = DecodeUtf8(text);
+    AppendUtf8(written, character.code);
+    text.remove_prefix(character.length);
+  }
+  written.append(Width - count, ' ');
+  text_ = std::move(written);
+}
+
+StrategyCatalogue& StrategyListData::Catalogue() {
+  Shared& shared = TheShared();
+  if (!shared.catalogue) {
+    const CatalogueFactory create = shared.createCatalogue;  // a copy: it may set another factory while it runs
+    if (create) shared.catalogue = create();
+    if (!shared.catalogue) throw Error(Error::ObjectNotSet);
+  }
+  return *shared.catalogue;
+}
+
+void StrategyListData::UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue) {
+  TheShared().catalogue = std::move(catalogue);
+}
+
+void StrategyListData::CreateCatalogueWith(CatalogueFactory factory) {
+  TheShared().createCatalogue = std::move(factory);
+}
+
+DescriptionBuffer& StrategyListData::Buffer() { return TheShared().buffer; }
+
+std::string UnshiftStrategyText(std::string_view text) {
+  std::string unshifted;
+  // What lies past the width is lost, but a code that cannot be lowered fails there too.
+  for (std::size_t count = 0; !text.empty() && text.front() != '\0'; ++count) {
+    const Utf8Character character = DecodeUtf8(text);
+    const char32_t code = Unshift(character);
+    if (count < UnshiftedWidth) AppendUtf8(unshifted, code);
+    text.remove_prefix(character.length);
+  }
+  return unshifted;
+}
+
+std::string UnshiftAndTrimStrategyText(std::string_view text) {
+  std::string unshifted = UnshiftStrategyText(text);
+  const std::size_t first = unshifted.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return unshifted.substr(first, unshifted.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace tactix

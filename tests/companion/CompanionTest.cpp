@@ -1,0 +1,56 @@
+#include "tactix/companion/Companion.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/platform/headless/HeadlessSite.h"
+#include "tactix/strategy/StrategyList.h"
+#include "tactix/strategy/StrategyListData.h"
+
+namespace tactix::tests {
+namespace {
+
+class CompanionTest : public testing::Test {
+ protected:
+  CompanionTest() { Forget(); }
+  ~CompanionTest() override { Forget(); }
+
+  static void Forget() {
+    StrategyListData::UseCatalogue(nullptr);
+    StrategyListData::CreateCatalogueWith(nullptr);
+  }
+};
+
+TEST_F(CompanionTest, ListsFillThemselvesOnceInstalled) {
+  companion::Install();
+  HeadlessSite site;
+  StrategyList list(site);
+  list.LoadStrategiesFromIniFile();
+  const ListBox& box = list.Children.StrategyListBox;
+  std::vector<std::string> rows;
+  for (std::int32_t row = 0; row < box.ListCount(); ++row) rows.push_back(box.List(row));
+  EXPECT_EQ(rows,
+            (std::vector<std::string>{"Not Present", "Basic 4-8 Decks S17", "Basic 4-8 Decks H17", "Basic 1 Deck H17",
+                                      "Basic 1 Deck S17", "Mimic the Dealer", "Never Bust", "Not Present"}));
+}
+
+TEST_F(CompanionTest, InstallingAgainKeepsWhatWasCreated) {
+  companion::Install();
+  const StrategyCatalogue* const created = &StrategyListData::Catalogue();
+  companion::Install();
+  EXPECT_EQ(&StrategyListData::Catalogue(), created);
+}
+
+TEST_F(CompanionTest, InstallingKeepsTheHostsCatalogue) {
+  const auto own = std::make_shared<companion::IniStrategyCatalogue>("[Playing 0]\ncaption=x\n", "own.ini");
+  StrategyListData::UseCatalogue(own);
+  companion::Install();
+  EXPECT_EQ(&StrategyListData::Catalogue(), own.get());
+}
+
+}  // namespace
+}  // namespace tactix::tests

@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "tactix/companion/Companion.h"
+#include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/platform/Utf8.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tests/support/RandomSequence.h"
+
+namespace tactix::tests {
+namespace {
+
+using companion::HandKind;
+using companion::IniError;
+using companion::IniStrategyCatalogue;
+using companion::PlayingTable;
+
+struct Mutated {
+  std::string text{companion::DefaultStrategies()};
+
+  std::size_t Anywhere(SequenceRandom& random) const {
+    return random.Below(static_cast<std::uint32_t>(text.size() + 1));
+  }
+  std::size_t LineStart(SequenceRandom& random) const {
+    const std::size_t end = text.find('\n', Anywhere(random));
+    return end == std::string::npos ? text.size() : end + 1;
+  }
+  std::string LineAt(std::size_t start) const { return text.substr(start, text.find('\n', start) - start + 1); }
+};
+
+int refused = 0;
+int taken = 0;
+
+/// A file is taken, and then every answer can be used, or it is refused with an error that names the file and one of
+/// its lines.
+std::string WhatIsWrong(Mutated& mutated) {
+  try {
+    IniStrategyCatalogue catalogue(mutated.text, "m.ini");
+    ++taken;
+    for (std::int16_t number = -3; number < 60; ++number) {
+      std::int16_t asked = number;
+      const std::string description = catalogue.DescribeStrategy(asked);
+      if (!IsUtf8(description) || CountUtf8(description) >= DescriptionBuffer::Width) return "bad description";
+      if (!description.empty() && std::count(description.begin(), description.end(), ',') != 2) return "bad fields";
+      const PlayingTable* const table = catalogue.TableOf(number);
+      if ((table == nullptr) != catalogue.PlaysOf(number).empty()) return "table missing";
+      if (table) static_cast<void>(table->Find(HandKind::Pair, PlayingTable::Ace, PlayingTable::Ace));
+    }
+    return {};
+  } catch (const IniError& error) {
+    ++refused;
+    const auto lines = std::count(mutated.text.begin(), mutated.text.end(), '\n') + 1;
+    if (error.Line() < 0 || error.Line() > lines) return "line " + std::to_string(error.Line());
+    const std::string place = error.Line() == 0 ? "m.ini: " : "m.ini:" + std::to_string(error.Line()) + ": ";
+    if (!error.Description().starts_with(place)) return "no place in: " + error.Description();
+    if (!IsUtf8(error.Description())) return "not UTF-8: " + error.Description();
+    return {};
+  }
+}
+
+TEST(StrategyFileMutationTest, IsTakenOrRefusedWithItsLine) {
+  RandomSequence<Mutated> sequence([] { return std::make_unique<Mutated>(); });
+  sequence.Add("change a byte", 4, [](Mutated& m, SequenceRandom& random) {
+    if (!m.text.empty()) m.text[m.Anywhere(random) % m.text.size()] = static_cast<char>(random.Below(256));
+  });
+  sequence.Add("insert something", 4, [](Mutated& m, SequenceRandom& random) {
+    const std::string pieces[] = {"[",
+                                  "]",
+                                  "=",
+                                  "\"",
+                                  ",",
+                                  " ",
+                                  "\n",
+                                  "\r\n",
+                                  "\t",
+                                  "-",
+                                  ";",
+                                  "9",
+                                  "Rp",
+                                  "\xC3\xA9",
+                                  "\xEF\xBB\xBF",
+                                  "\xED\x9F\xBF",
+                                  "#",
+                                  "no",
+                                  "yes",
+                                  "[Table",
+                                  "caption=",
+                                  std::string(1, '\0'),
+                                  std::string(2000, 'x')};
+    m.text.insert(m.Anywhere(random), pieces[random.Below(std::size(pieces))]);
+  });
+  sequence.Add("cut a piece", 2, [](Mutated& m, SequenceRandom& random) {
+    m.text.erase(m.Anywhere(random), 1 + random.Below(random.OneIn(5) ? 4000 : 8));
+  });
+  sequence.Add("drop a line", 3, [](Mutated& m, SequenceRandom& random) {
+    const std::size_t start = m.LineStart(random);
+    m.text.erase(start, m.LineAt(start).size());
+  });
+  sequence.Add("move a line", 3, [](Mutated& m, SequenceRandom& random) {
+    const std::size_t start = m.LineStart(random);
+    const std::string line = m.LineAt(start);
+    m.text.erase(start, line.size());
+    m.text.insert(m.LineStart(random), line);
+  });
+  sequence.Add("repeat a line", 1, [](Mutated& m, SequenceRandom& random) {
+    const std::string line = m.LineAt(m.LineStart(random));
+    m.text.insert(m.LineStart(random), line);
+  });
+  sequence.Always(WhatIsWrong);
+  EXPECT_TRUE(sequence.Run(19620917, 4000, 3));
+  EXPECT_GT(taken, 400);
+  EXPECT_GT(refused, 400);
+}
+
+}  // namespace
+}  // namespace tactix::tests

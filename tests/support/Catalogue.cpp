@@ -1,0 +1,14 @@
+#include "tests/support/Catalogue.h"
+
+namespace tactix::tests {
+
+const std::vector<CatalogueEntry>& Catalogue() {
+  static const std::vector<CatalogueEntry> entries = {
+      StrategyListEntry(),
+      AdviceButtonEntry(),
+      DecisionEntry(),
+  };
+  return entries;
+}
+
+}  // namespace tactix::tests

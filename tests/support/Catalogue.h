@@ -1,0 +1,101 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "tactix/platform/Control.h"
+#include "tactix/platform/Event.h"
+#include "tactix/platform/Variant.h"
+#include "tactix/platform/headless/HeadlessSite.h"
+
+namespace tactix::tests {
+
+/// Whether a property goes into the container's property bag, and comes back from it.
+enum class Saved { No, Yes, WrittenOnly };
+
+/// A property of a control as documented. Whether it can be read and written, the control's property table says.
+struct CataloguedProperty {
+  std::string name;
+  /// In a new control; not used for a set-only property.
+  Variant initial;
+  /// Another value, to be written; not used for a get-only property.
+  Variant other;
+  Saved saved = Saved::No;
+  /// What it reads after the other value was written, where that is something else.
+  std::optional<Variant> reads = std::nullopt;
+
+  const Variant& ReadsAfterWriting() const { return reads ? *reads : other; }
+};
+
+/// One event of a control that exists.
+struct CataloguedEvent {
+  std::int32_t number;
+  std::string_view name;
+  std::function<void(std::function<void()> handler)> connect;
+  /// Raises it with arguments of no meaning.
+  std::function<void()> raise;
+};
+
+/// Something that users or hosts do, and the event that this raises.
+struct Raiser {
+  std::string event;
+  std::function<void(HeadlessSite&, Control&)> act;
+};
+
+/// A control of the library, for tests that sweep over all of them.
+struct CatalogueEntry {
+  std::string name;
+  std::function<std::unique_ptr<Control>(Site&)> make;
+  std::function<std::vector<CataloguedEvent>(Control&)> events;
+  std::vector<CataloguedProperty> properties;
+  /// One for each event at least, except those that the control declares and never raises.
+  std::vector<Raiser> raisers;
+  std::vector<std::string> neverRaised;
+};
+
+/// All controls. A new one gets an entry function in the file of its room, and a line in Catalogue.cpp.
+const std::vector<CatalogueEntry>& Catalogue();
+
+// The entry functions.
+CatalogueEntry StrategyListEntry();
+CatalogueEntry AdviceButtonEntry();
+CatalogueEntry DecisionEntry();
+
+// For the entry functions.
+
+template <class... Args>
+CataloguedEvent ToCatalogued(Event<Args...>& event) {
+  return {event.Number(), event.Name(),
+          [&event](std::function<void()> handler) { event.Connect([handler](Args...) { handler(); }); },
+          [&event] {
+            std::tuple<std::remove_cvref_t<Args>...> values{};
+            std::apply([&event](auto&... each) { event.Raise(static_cast<Args>(each)...); }, values);
+          }};
+}
+
+template <class C>
+CatalogueEntry EntryOf(std::string name) {
+  CatalogueEntry entry;
+  entry.name = std::move(name);
+  entry.make = [](Site& site) { return std::make_unique<C>(site); };
+  entry.events = [](Control& control) {
+    const auto list = [](auto&... each) { return std::vector<CataloguedEvent>{ToCatalogued(each)...}; };
+    return std::apply(list, static_cast<C&>(control).Events.All());
+  };
+  return entry;
+}
+
+template <class C>
+Raiser RaiserOf(std::string event, void (*act)(HeadlessSite&, C&)) {
+  return {std::move(event), [act](HeadlessSite& site, Control& control) { act(site, static_cast<C&>(control)); }};
+}
+
+}  // namespace tactix::tests
