@@ -1,0 +1,185 @@
+#include "tactix-qt/ControlWidget.h"
+
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QScopedValueRollback>
+#include <QShowEvent>
+#include <algorithm>
+#include <utility>
+
+#include "tactix-qt/Convert.h"
+#include "tactix-qt/Retirement.h"
+#include "tactix-qt/peers/Keys.h"
+#include "tactix-qt/peers/PeerTree.h"
+#include "tactix-qt/peers/RootPeer.h"
+#include "tactix/platform/UserAction.h"
+
+namespace tactix::qt {
+
+namespace {
+
+constexpr int SmallestSide = 16;
+
+}  // namespace
+
+ControlWidget::ControlWidget(QWidget* parent) : QWidget(parent), site_(std::make_unique<QtSite>(*this)) {}
+
+ControlWidget::~ControlWidget() { EndControl(); }
+
+void ControlWidget::EndControl() {
+  if (control_) control_->Terminated();
+  RetireNatives();
+  // Out of the member first: what the ending control calls may ask for it.
+  const std::unique_ptr<Control> ending = std::move(owned_);
+  control_ = nullptr;
+}
+
+void ControlWidget::RetireNatives() {
+  setFocusProxy(nullptr);
+  if (RootPeer* root = std::exchange(root_, nullptr)) {
+    ReleasePeers(*root);
+    Retire(*root);
+  }
+}
+
+void ControlWidget::ControlAttached(Control& control) { control_ = &control; }
+
+void ControlWidget::ControlDetached(Control& control) {
+  if (control_ != &control) return;
+  control_ = nullptr;
+  RetireNatives();
+}
+
+void ControlWidget::Own(std::unique_ptr<Control> control) {
+  owned_ = std::move(control);
+  owned_->InitProperties();
+  Host(*owned_);
+}
+
+void ControlWidget::Host(Control& control) {
+  control_ = &control;
+  Extender& extender = control.Extender();
+  hint_ = QSize(ToPixels(extender.Width()), ToPixels(extender.Height()));
+  place_ = QPoint(ToPixels(extender.Left()), ToPixels(extender.Top()));
+  resize(hint_);
+  root_ = new RootPeer(extender, *this);
+  root_->setGeometry(rect());
+  MakePeers(extender, *site_, *root_);
+  setFocusProxy(&FocusEntry(*root_));
+  root_->setVisible(true);
+  if (!extender.Visible()) setVisible(false);
+  if (!extender.Enabled()) setEnabled(false);
+  setToolTip(ToQt(extender.ToolTipText()));
+  updateGeometry();
+}
+
+void ControlWidget::setUserMode(bool running) {
+  if (running == userMode()) return;
+  site_->UserMode(running);
+  if (control_) RunUserAction(*site_, [this] { control_->AmbientChanged(); });
+}
+
+QSize ControlWidget::sizeHint() const { return hint_.isValid() ? hint_ : QWidget::sizeHint(); }
+
+QSize ControlWidget::minimumSizeHint() const {
+  if (!hint_.isValid()) return QWidget::minimumSizeHint();
+  return {std::max(hint_.width() / 2, std::min(hint_.width(), SmallestSide)),
+          std::max(hint_.height() / 2, std::min(hint_.height(), SmallestSide))};
+}
+
+void ControlWidget::NotifyPropertyChanged(std::string_view name) {
+  static const QMetaMethod signal = QMetaMethod::fromSignal(&ControlWidget::propertyChanged);
+  if (isSignalConnected(signal)) Q_EMIT propertyChanged(ToQt(name));
+}
+
+void ControlWidget::NotifyUnhandled(const Error& error) {
+  static const QMetaMethod signal = QMetaMethod::fromSignal(&ControlWidget::unhandledError);
+  if (isSignalConnected(signal)) {
+    Q_EMIT unhandledError(ToQt(error.Description()), error.Code());
+  } else {
+    qWarning("%s: error %d: %s", metaObject()->className(), static_cast<int>(error.Code()),
+             error.Description().c_str());
+  }
+}
+
+void ControlWidget::ExtenderMoved() {
+  if (adopting_ || !control_) return;
+  const Extender& extender = control_->Extender();
+  const QSize size(ToPixels(extender.Width()), ToPixels(extender.Height()));
+  const QPoint place(ToPixels(extender.Left()), ToPixels(extender.Top()));
+  if (size != hint_) {
+    hint_ = size;
+    updateGeometry();
+  }
+  if (size != this->size()) resize(size);
+  root_->setGeometry(rect());
+  // Compared with where the control was, not with pos(): Qt holds move events back while a widget is hidden.
+  if (place == place_) return;
+  place_ = place;
+  move(place);
+}
+
+void ControlWidget::AdoptGeometry() {
+  if (!control_ || !root_) return;
+  root_->setGeometry(rect());
+  Extender& extender = control_->Extender();
+  place_ = pos();
+  // A fraction of a pixel that the control has set stays as long as the pixels agree.
+  const auto adopt = [](int pixels, float twips) { return ToPixels(twips) == pixels ? twips : ToTwips(pixels); };
+  const QScopedValueRollback<bool> adopting(adopting_, true);
+  RunUserAction(*site_, [&] {
+    extender.Place(adopt(x(), extender.Left()), adopt(y(), extender.Top()), adopt(width(), extender.Width()),
+                   adopt(height(), extender.Height()));
+  });
+}
+
+void ControlWidget::resizeEvent(QResizeEvent*) { AdoptGeometry(); }
+
+void ControlWidget::moveEvent(QMoveEvent*) { AdoptGeometry(); }
+
+void ControlWidget::showEvent(QShowEvent* event) {
+  if (event->spontaneous()) return;
+  if (window_ != window()) {
+    if (window_) window_->removeEventFilter(this);
+    window_ = window();
+    window_->installEventFilter(this);
+  }
+  // Later: Qt does not survive a widget that is deleted while it is being shown.
+  const auto displayed = [this] {
+    if (control_) RunUserAction(*site_, [this] { control_->Displayed(); });
+  };
+  QMetaObject::invokeMethod(this, displayed, Qt::QueuedConnection);
+}
+
+void ControlWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (!control_) return;
+  switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::PaletteChange:
+    case QEvent::StyleChange:
+      RunUserAction(*site_, [this] { control_->AmbientChanged(); });
+      break;
+    case QEvent::EnabledChange:
+      // The host's own flag; a disabled parent is none of the control's business.
+      control_->Extender().Enabled(!testAttribute(Qt::WA_ForceDisabled));
+      break;
+    default:
+      break;
+  }
+}
+
+bool ControlWidget::event(QEvent* event) {
+  if (control_ && root_) {
+    if (event->type() == QEvent::ShowToParent) control_->Extender().Visible(true);
+    if (event->type() == QEvent::HideToParent) control_->Extender().Visible(false);
+  }
+  return QWidget::event(event);
+}
+
+bool ControlWidget::eventFilter(QObject*, QEvent* event) {
+  // Enter that nothing in the window wanted, wherever the focus is.
+  return event->type() == QEvent::KeyPress && PressDefaultButton(static_cast<QKeyEvent&>(*event), *site_);
+}
+
+}  // namespace tactix::qt

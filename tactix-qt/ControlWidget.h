@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "tactix-qt/Export.h"
+#include "tactix-qt/QtSite.h"
+#include "tactix/platform/Control.h"
+
+namespace tactix::qt {
+
+class RootPeer;
+
+/// A QWidget that shows a control. The classes named after the controls derive from it and own theirs; it also hosts a
+/// control that somebody else owns, made on ItsSite().
+///
+/// Errors that a user's action raises come out of unhandledError; those of a direct call of the control are the
+/// caller's. The child widgets are found by their names as object names.
+class TACTIX_QT_EXPORT ControlWidget : public QWidget {
+  Q_OBJECT
+  /// True by default: the control runs. False in a form designer.
+  Q_PROPERTY(bool userMode READ userMode WRITE setUserMode STORED false DESIGNABLE false)
+
+ public:
+  explicit ControlWidget(QWidget* parent = nullptr);
+  ~ControlWidget() override;
+
+  QtSite& ItsSite() { return *site_; }
+  /// Null before Host, and once the control is gone.
+  Control* Hosted() const { return control_; }
+
+  /// Draws a control that was made on this widget's site. The control must end before the widget, or with it in a
+  /// handler.
+  void Host(Control& control);
+
+  bool userMode() const { return site_->UserMode(); }
+  void setUserMode(bool running);
+
+  /// The size that the control asks for: as designed, or as it has last set its own.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ Q_SIGNALS:
+  /// A persisted property has changed, under this name.
+  void propertyChanged(const QString& name);
+  /// An error that a user's action or a timer has raised. Where nothing is connected it is logged as a warning.
+  void unhandledError(const QString& text, int code);
+
+ protected:
+  /// Takes a new control over, gives it its initial properties, and hosts it.
+  void Own(std::unique_ptr<Control> control);
+  /// Ends the control. Destructors of derived classes call it first, while their signals are still there.
+  void EndControl();
+
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  friend class QtSite;
+  friend class RootPeer;
+  void ControlAttached(Control& control);
+  void ControlDetached(Control& control);
+  void NotifyPropertyChanged(std::string_view name);
+  void NotifyUnhandled(const Error& error);
+  void ExtenderMoved();
+  void AdoptGeometry();
+  void RetireNatives();
+
+  std::unique_ptr<QtSite> site_;
+  std::unique_ptr<Control> owned_;
+  Control* control_ = nullptr;
+  RootPeer* root_ = nullptr;
+  QPointer<QWidget> window_;
+  QSize hint_;
+  QPoint place_;
+  bool adopting_ = false;
+};
+
+}  // namespace tactix::qt

@@ -1,0 +1,26 @@
+#include "tactix-qt/peers/ContainerPeer.h"
+
+#include <QPainter>
+
+#include "tactix-qt/Convert.h"
+
+namespace tactix::qt {
+
+ContainerPeer::ContainerPeer(Extender& extender, QtSite& site, QWidget* parent) : NativePeer(extender, site, parent) {
+  if (extender.HasKeyMap()) setFocusPolicy(Qt::TabFocus);
+}
+
+void ContainerPeer::Update(Aspect aspect) {
+  if (aspect == Aspect::Colors) {
+    update();
+  } else {
+    Peer::Update(aspect);
+  }
+}
+
+void ContainerPeer::paintEvent(QPaintEvent*) {
+  // Not by the palette: the child widgets would inherit it.
+  if (Model() && !IsSystemColor(Model()->BackColor())) QPainter(this).fillRect(rect(), ToQt(Model()->BackColor()));
+}
+
+}  // namespace tactix::qt

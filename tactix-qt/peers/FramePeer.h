@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QFrame>
+
+#include "tactix-qt/peers/Peer.h"
+
+namespace tactix::qt {
+
+/// A panel, raised, or a picture, flat and framed.
+class TACTIX_QT_EXPORT FramePeer final : public NativePeer<QFrame, Widget> {
+ public:
+  FramePeer(Widget& widget, QtSite& site, QWidget* parent);
+
+ protected:
+  void Update(Aspect aspect) override;
+  bool TakesClickFocus() const override { return focusPolicy() != Qt::NoFocus; }
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tactix::qt

@@ -1,0 +1,129 @@
+#include "tactix-qt/peers/ListBoxPeer.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+
+#include "tactix-qt/Convert.h"
+#include "tactix-qt/Retirement.h"
+
+namespace tactix::qt {
+
+ListBoxPeer::ListBoxPeer(ListBox& box, QtSite& site, QWidget* parent) : NativePeer(box, site, parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  // Else each row that is added asks for a new layout.
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  view()->setTextElideMode(Qt::ElideNone);
+  for (std::int32_t row = 0; row < box.ListCount(); ++row) addItem(ToQt(box.List(row)));
+  ShowRow();
+  connect(this, &QComboBox::activated, this, [this](int row) { Picked(row); });
+}
+
+void ListBoxPeer::Picked(int row) {
+  // Later: QComboBox goes on emitting after the slot that destroyed its window.
+  const auto pick = [this, row] {
+    const HandlerScope scope;
+    if (Model()) Model()->PickRow(row);
+    if (Model()) ShowRow();
+  };
+  QMetaObject::invokeMethod(this, pick, Qt::QueuedConnection);
+}
+
+void ListBoxPeer::RowInserted(ListBox& box, std::int32_t row) {
+  insertItem(row, ToQt(box.List(row)));
+  ShowRow();
+}
+
+void ListBoxPeer::RowsCleared(ListBox&) {
+  clear();
+  ShowRow();
+}
+
+void ListBoxPeer::ShowRow() {
+  setPlaceholderText(ToQt(Model()->Text()));
+  setCurrentIndex(Model()->ListIndex());
+  update();
+}
+
+void ListBoxPeer::Update(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Row:
+    case Aspect::Text:
+      ShowRow();
+      break;
+    case Aspect::Colors: {
+      QPalette own;
+      if (const Color color = Model()->ForeColor(); !IsSystemColor(color)) {
+        own.setColor(QPalette::Text, ToQt(color));
+        own.setColor(QPalette::ButtonText, ToQt(color));
+      }
+      if (const Color color = Model()->BackColor(); !IsSystemColor(color)) {
+        own.setColor(QPalette::Base, ToQt(color));
+        own.setColor(QPalette::Button, ToQt(color));
+      }
+      setPalette(own);
+      break;
+    }
+    default:
+      break;
+  }
+  Peer::Update(aspect);
+}
+
+bool ListBoxPeer::TakesKey(const QKeyEvent& event) const {
+  if ((event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier) return false;
+  return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down || event.key() == Qt::Key_Home ||
+         event.key() == Qt::Key_End;
+}
+
+void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
+  const bool opens = event->key() == Qt::Key_F4 || event->key() == Qt::Key_Space ||
+                     (event->key() == Qt::Key_Down && (event->modifiers() & Qt::AltModifier));
+  if (opens) {
+    showPopup();
+  } else {
+    // Not to QComboBox: it would change rows by itself.
+    event->ignore();
+  }
+}
+
+void ListBoxPeer::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ListBoxPeer::showPopup() {
+  const int scrollBar = count() > maxVisibleItems() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar + 2 * view()->frameWidth());
+  QComboBox::showPopup();
+}
+
+QString ListBoxPeer::ShownText() const { return currentIndex() < 0 ? placeholderText() : currentText(); }
+
+int ListBoxPeer::TextFlags() const { return Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap; }
+
+QRect ListBoxPeer::TextRoom() const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).adjusted(1, 0, -1, 0);
+}
+
+QRect ListBoxPeer::TextRect() {
+  const QRect room = TextRoom();
+  const QFont& fitted = fitted_.Fit(ShownText(), font(), room.size(), TextFlags(), this);
+  return FittedText::Measure(ShownText(), fitted, room, TextFlags(), this);
+}
+
+void ListBoxPeer::paintEvent(QPaintEvent*) {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText.clear();
+  QPainter painter(this);
+  style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, this);
+  const QRect room = TextRoom();
+  painter.setFont(fitted_.Fit(ShownText(), font(), room.size(), TextFlags(), this));
+  style()->drawItemText(&painter, room, TextFlags(), palette(), isEnabled(), ShownText(), QPalette::ButtonText);
+}
+
+}  // namespace tactix::qt

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <optional>
+
+#include "tactix-qt/Decision.h"
+#include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/shared/DecisionBlock.h"
+#include "trainer/engine/Session.h"
+#include "trainer/screens/TableModel.h"
+
+class QLabel;
+
+namespace trainer::screens {
+
+class TableView;
+
+/// A decision as the window judged it, with what it was made on.
+struct DecisionRecord {
+  int hand = 0;  ///< counted from 1
+  engine::Hand cards;
+  engine::Rank upCard = engine::Rank::Ace;
+  engine::Judgement judgement;
+};
+
+/// The trainer: a table with cards, and a decision box with which the player plays. The window deals, asks, judges and
+/// says what was right. Between hands any play deals the next one.
+class TrainerWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `catalogue` is where the strategies in the box's list come from.
+  TrainerWindow(engine::Session session, std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue,
+                QWidget* parent = nullptr);
+
+  [[nodiscard]] const engine::Session& CurrentSession() const { return session_; }
+  tactix::qt::Decision& Box() { return *box_; }
+  TableView& Table() { return *table_; }
+
+  void Deal();
+
+ Q_SIGNALS:
+  void Judged(const trainer::screens::DecisionRecord& record);
+  void RoundOver();
+
+ private:
+  void Connect();
+  void Decide(engine::Decision decision);
+  void Ask();
+  void ShowTable(const QString& message, TableModel::Verdict verdict = TableModel::Verdict::None);
+  void ShowTally();
+  void PredictHitCard(std::optional<engine::CardRange> range);
+  void PredictHoleCard(std::optional<engine::CardRange> range);
+  void PredictTensRatio(bool high);
+  void SayAdvice();
+  void Burn();
+  void CopyHand();
+  void FollowStrategy(int number);
+
+  engine::Session session_;
+  std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue_;
+  tactix::DecisionBlock block_;
+  TableView* table_;
+  QLabel* tally_;
+  tactix::qt::Decision* box_;
+};
+
+}  // namespace trainer::screens
