@@ -9,7 +9,7 @@ namespace {
 
 constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 870;
-constexpr float SizeOfFont = 8.25F;
+constexpr float SizeOfFont = 9.75F;
 constexpr std::array<std::string_view, 5> BlinkCaptions = {"&Never", "-", "&Every Time", "-", "1st &Time this Hand"};
 
 }  // namespace

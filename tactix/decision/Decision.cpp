@@ -283,9 +283,8 @@ void Decision::AdviceClicked() {
   Children.AdviceButton.Extender().BringToFront();
   Children.ManualPlayButtons.SetFocus();
   for (const DecisionPlay& play : DecisionPlays) {
-    if (!self) return;
-    if (play.code != advisedDecision_) continue;
-    if (!blinker_.Flash((Children.*play.button).Handle())) return;
+    if (!self || play.code != advisedDecision_) continue;
+    blinker_.Flash((Children.*play.button).Handle());
     break;
   }
   if (self) Events.AdviceRequested.Raise();

@@ -11,7 +11,7 @@ namespace {
 
 // Twips.
 constexpr float DesignWidth = 7500;
-constexpr float DesignHeight = 2550;
+constexpr float DesignHeight = 2820;
 constexpr float Margin = 60;
 constexpr float PromptHeight = 360;
 constexpr float StripHeight = 330;  // above the play buttons, for the description box

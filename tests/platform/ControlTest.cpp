@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -77,6 +78,19 @@ TEST(ControlTest, ReachesControlsInsideItsPanels) {
   inPanel.OnNote = [&probe](const std::string& note) { probe.recorder.Note("in panel, " + note); };
   probe.outer->Displayed();
   EXPECT_EQ(probe.recorder.Take(), Log{"in panel, inner: Displayed"});
+}
+
+TEST(ControlTest, TellsNobodyInsideItOnceItIsGone) {
+  HeadlessProbe probe;
+  auto second = std::make_unique<InnerProbe>(probe.outer->SiteOfInner);
+  probe.outer->Extender().Add(second->Extender(), "Second");
+  second->OnNote = [&probe](const std::string& note) { probe.recorder.Note("second, " + note); };
+  probe.Children().Inner.OnNote = [&](const std::string&) {
+    second.reset();
+    probe.DestroyWindow();
+  };
+  probe.outer->Displayed();
+  EXPECT_EQ(probe.recorder.Take(), Log{});
 }
 
 TEST(ControlTest, AnnouncesItselfToItsSite) {

@@ -316,19 +316,30 @@ TEST(EventLifetimeTest, TakingOffAHandlerMayDestroyTheConnectionAndTheEvent) {
 }
 
 TEST(EventLifetimeTest, DyingHandlersMayReachBackIntoTheirEvent) {
-  Log log;
+  int gone = 0;
   {
     Event<> event{1, "Event"};
-    auto sibling = std::make_shared<ScopedConnection>();
-    event.Connect([sibling] {});
-    *sibling = event.Connect([] {});
-    const Connection watch = event.Connect([] {});
-    event.Connect([reach = std::shared_ptr<void>(nullptr, [watch, &log](void*) {
-                     log.emplace_back(watch.IsConnected() ? "connected" : "off");
-                   })] {});
-    sibling.reset();
+    auto toLast = std::make_shared<ScopedConnection>();
+    auto toFirst = std::make_shared<ScopedConnection>();
+    const std::shared_ptr<void> count(nullptr, [&gone](void*) { ++gone; });
+    *toFirst = event.Connect([toLast, count] {});
+    event.Connect([] {});
+    *toLast = event.Connect([toFirst, count] {});
   }
-  EXPECT_EQ(log, Log{"off"});
+  EXPECT_EQ(gone, 1);
+}
+
+TEST(ConnectionTest, IsOffOnceItsEventIsGoneThoughARaiseIsStillUnderWay) {
+  std::optional<Event<>> event(std::in_place, 1, "Event");
+  bool connected = true;
+  Connection later;
+  event->Connect([&] {
+    event.reset();
+    connected = later.IsConnected();
+  });
+  later = event->Connect([] {});
+  event->Raise();
+  EXPECT_FALSE(connected);
 }
 
 }  // namespace

@@ -139,6 +139,13 @@ TEST(HeadlessWaitTest, EndsWithItsSite) {
   EXPECT_EQ(probe.recorder.Take(), Log{});
 }
 
+TEST(HeadlessWaitTest, EndsWithItsSiteThoughItIsNotDone) {
+  HeadlessProbe probe;
+  probe.site->After(100, [&probe] { probe.DestroyWindow(); });
+  EXPECT_NO_THROW(probe.site->RunUntil([] { return false; }));
+  EXPECT_FALSE(probe.site);
+}
+
 TEST(HeadlessClockTest, ASiteMayEndWhileItsTimePasses) {
   HeadlessProbe probe;
   probe.site->After(100, [&probe] { probe.DestroyWindow(); });

@@ -7,28 +7,13 @@
 #include <vector>
 
 #include "tactix/platform/Error.h"
-#include "tests/support/HeadlessProbe.h"
+#include "tests/platform/ListProbe.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
 namespace {
 
 using Log = std::vector<std::string>;
-
-/// The probe's list (apple, banana, cherry, avocado, "") with its notifications alone.
-struct ListProbe : HeadlessProbe {
-  ListBox& list = Children().RowList;
-  EventRecorder notes;
-
-  ListProbe() {
-    notes.Watch(list.Clicked);
-    notes.Watch(list.Changed);
-  }
-  void Press(std::int32_t code, std::int16_t shift = 0) {
-    list.SetFocus();
-    site->PressKey({code, shift});
-  }
-};
 
 /// Something done to the list, and what then holds.
 struct ListRow {
@@ -50,17 +35,12 @@ TEST_P(ListRowTest, IsAndReportsThis) {
   EXPECT_EQ(probe.notes.Take(), expected.notes);
 }
 
-void Select(ListProbe& p, std::int32_t row) {
-  p.list.ListIndex(row);
-  p.notes.Forget();
-}
-
 const ListRow RowsFromCode[] = {
     {"AtFirst", [](ListProbe&) {}, -1, "", {}},
     {"SetRow", [](ListProbe& p) { p.list.ListIndex(2); }, 2, "cherry", {"Click"}},
     {"SetTheSameRow",
      [](ListProbe& p) {
-       Select(p, 2);
+       p.Select(2);
        p.list.ListIndex(2);
      },
      2,
@@ -77,7 +57,7 @@ const ListRow RowsFromCode[] = {
     {"SetTheLastRow", [](ListProbe& p) { p.list.ListIndex(4); }, 4, "", {"Click"}},
     {"Deselect",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.ListIndex(-1);
      },
      -1,
@@ -89,7 +69,7 @@ const ListRow RowsFromCode[] = {
 const ListRow Texts[] = {
     {"TextOfNoRow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text("plum");
      },
      -1,
@@ -97,7 +77,7 @@ const ListRow Texts[] = {
      {"Change"}},
     {"TextOfTheSelectedRow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text("banana");
      },
      1,
@@ -105,7 +85,7 @@ const ListRow Texts[] = {
      {}},
     {"TextOfAnotherRow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text("cherry");
      },
      -1,
@@ -113,7 +93,7 @@ const ListRow Texts[] = {
      {"Change"}},
     {"TextInAnotherCase",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text("Banana");
      },
      -1,
@@ -130,7 +110,7 @@ const ListRow Texts[] = {
      {}},
     {"ItsOwnText",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text(p.list.Text());
      },
      1,
@@ -138,7 +118,7 @@ const ListRow Texts[] = {
      {}},
     {"EmptyText",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Text("");
      },
      -1,
@@ -155,7 +135,7 @@ const ListRow Texts[] = {
      {"Click"}},
     {"TextLosesTheRowBeforeItIsReported",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Changed.Connect([&p] { p.notes.Note(std::to_string(p.list.ListIndex()) + " " + p.list.Text()); });
        p.list.Text("plum");
      },
@@ -168,7 +148,7 @@ const ListRow Picks[] = {
     {"Pick", [](ListProbe& p) { p.list.PickRow(3); }, 3, "avocado", {"Click"}},
     {"PickTheSameRow",
      [](ListProbe& p) {
-       Select(p, 3);
+       p.Select(3);
        p.list.PickRow(3);
      },
      3,
@@ -185,7 +165,7 @@ const ListRow Picks[] = {
      {"Click"}},
     {"PickNoRow",
      [](ListProbe& p) {
-       Select(p, 3);
+       p.Select(3);
        p.list.PickRow(-1);
        p.list.PickRow(5);
      },
@@ -239,7 +219,7 @@ const ListRow Picks[] = {
 const ListRow Contents[] = {
     {"ClearDeselectsAndKeepsTheText",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.Clear();
        EXPECT_EQ(p.list.ListCount(), 0);
      },
@@ -248,7 +228,7 @@ const ListRow Contents[] = {
      {}},
     {"AddBelow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.AddItem("plum");
        EXPECT_EQ(p.list.List(5), "plum");
      },
@@ -257,7 +237,7 @@ const ListRow Contents[] = {
      {}},
     {"AddBeforeTheSelectedRow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.AddItem("plum", 1);
        EXPECT_EQ(p.list.List(1), "plum");
      },
@@ -266,7 +246,7 @@ const ListRow Contents[] = {
      {}},
     {"AddAfterTheSelectedRow",
      [](ListProbe& p) {
-       Select(p, 1);
+       p.Select(1);
        p.list.AddItem("plum", 2);
        EXPECT_EQ(p.list.List(2), "plum");
      },
@@ -293,45 +273,10 @@ const ListRow Contents[] = {
      {}},
 };
 
-ListRow Key(std::string name, std::int32_t from, std::int32_t code, std::int16_t shift, std::int32_t to, bool picks) {
-  static const char* const texts[] = {"", "apple", "banana", "cherry", "avocado", ""};
-  return {std::move(name),
-          [from, code, shift](ListProbe& p) {
-            if (from >= 0) Select(p, from);
-            p.Press(code, shift);
-          },
-          to, texts[to + 1], picks ? Log{"Click"} : Log{}};
-}
-
-const ListRow Keys[] = {
-    Key("DownFromNone", -1, DownArrowKey, 0, 0, true),
-    Key("Down", 1, DownArrowKey, 0, 2, true),
-    Key("DownFromTheLast", 4, DownArrowKey, 0, 4, false),
-    Key("UpFromNone", -1, UpArrowKey, 0, -1, false),
-    Key("Up", 1, UpArrowKey, 0, 0, true),
-    Key("UpFromTheFirst", 0, UpArrowKey, 0, 0, false),
-    Key("Home", 3, HomeKey, 0, 0, true),
-    Key("HomeAtTheFirst", 0, HomeKey, 0, 0, false),
-    Key("End", 1, EndKey, 0, 4, true),
-    Key("EndAtTheLast", 4, EndKey, 0, 4, false),
-    Key("Letter", -1, 'c', 0, 2, true),
-    Key("CapitalLetter", -1, 'C', ShiftKey, 2, true),
-    Key("LetterOfTheNextMatch", 0, 'A', 0, 3, true),
-    Key("LetterGoesRound", 3, 'A', 0, 0, true),
-    Key("LetterOfTheSelectedRowAlone", 2, 'C', 0, 2, false),
-    Key("LetterWithoutARow", 1, 'Z', 0, 1, false),
-    Key("CtrlLetter", 1, 'C', CtrlKey, 1, false),
-    Key("CtrlDown", 1, DownArrowKey, CtrlKey, 1, false),
-    Key("AltDown", 1, DownArrowKey, AltKey, 1, false),
-    Key("ShiftDown", 1, DownArrowKey, ShiftKey, 2, true),
-    Key("FunctionKey", 1, FunctionKey1, 0, 1, false),
-};
-
 INSTANTIATE_TEST_SUITE_P(FromCode, ListRowTest, testing::ValuesIn(RowsFromCode), RowName());
 INSTANTIATE_TEST_SUITE_P(Text, ListRowTest, testing::ValuesIn(Texts), RowName());
 INSTANTIATE_TEST_SUITE_P(Pick, ListRowTest, testing::ValuesIn(Picks), RowName());
 INSTANTIATE_TEST_SUITE_P(Contents, ListRowTest, testing::ValuesIn(Contents), RowName());
-INSTANTIATE_TEST_SUITE_P(Keys, ListRowTest, testing::ValuesIn(Keys), RowName());
 
 struct FailureRow {
   std::string name;
@@ -343,7 +288,7 @@ class ListFailureTest : public testing::TestWithParam<FailureRow> {};
 
 TEST_P(ListFailureTest, FailsAndChangesNothing) {
   ListProbe probe;
-  Select(probe, 1);
+  probe.Select(1);
   try {
     GetParam().act(probe.list);
     FAIL() << "did not fail";
@@ -370,30 +315,6 @@ const FailureRow Failures[] = {
 INSTANTIATE_TEST_SUITE_P(Rows, ListFailureTest, testing::ValuesIn(Failures), RowName());
 
 TEST(ListBoxTest, StyleReadsZero) { EXPECT_EQ(ListBox().Style(), 0); }
-
-TEST(ListBoxTest, AnEmptyListTakesItsKeysAndPicksNothing) {
-  ListProbe probe;
-  probe.list.Clear();
-  for (const std::int32_t key : {std::int32_t{UpArrowKey}, std::int32_t{DownArrowKey}, std::int32_t{HomeKey},
-                                 std::int32_t{EndKey}, std::int32_t{'A'}}) {
-    probe.Press(key);
-  }
-  EXPECT_EQ(probe.list.ListIndex(), -1);
-  EXPECT_EQ(probe.notes.Take(), Log{});
-  EXPECT_EQ(probe.recorder.Take(), Log{}) << "the box's key map has run, too";
-}
-
-TEST(ListBoxTest, KeysThatItKnowsGoNoFurtherAndOthersDo) {
-  ListProbe probe;
-  Select(probe, 1);
-  probe.recorder.Forget();
-  probe.Press(UpArrowKey);
-  probe.Press('Z');
-  EXPECT_EQ(probe.recorder.Take(), Log{"RowPicked#4(0)"});
-  probe.Press('C', CtrlKey);
-  probe.Press(FunctionKey1);
-  EXPECT_EQ(probe.recorder.Take(), (Log{"KeyPressed#9(box, C)", "KeyPressed#9(box, )"}));
-}
 
 TEST(ListBoxTest, AHandlerMayDestroyTheControl) {
   const std::function<void(ListProbe&)> ways[] = {

@@ -7,14 +7,14 @@ namespace tactix::tests {
 
 namespace {
 
-void Press(AdviceButton& button, MenuEntry& entry, HeadlessSite& site) {
-  site.ScriptMenu([&entry](Menu&) { entry.Choose(); });
+void OpenTheList(HeadlessSite& site, AdviceButton& button) {
+  site.ScriptMenu([&button](Menu&) { button.Children.mnuSelectStrategy.Choose(); });
   button.Children.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});
 }
 
-void PickAStrategy(HeadlessSite& site, AdviceButton& button) {
+void PickAStrategy(AdviceButton& button) {
   button.Children.StrategyListBox.AddItem("row");
-  Press(button, button.Children.mnuSelectStrategy, site);
+  button.Children.StrategyListBox.Extender().Visible(true);
   button.Children.StrategyListBox.Children.StrategyListBox.PickRow(0);
 }
 
@@ -59,11 +59,9 @@ CatalogueEntry AdviceButtonEntry() {
       RaiserOf<AdviceButton>("Click",
                              [](HeadlessSite&, AdviceButton& button) { button.Children.cmdAdviceButton.Click(); }),
       RaiserOf<AdviceButton>("AdviceStrategySelected",
-                             [](HeadlessSite& site, AdviceButton& button) { PickAStrategy(site, button); }),
+                             [](HeadlessSite&, AdviceButton& button) { PickAStrategy(button); }),
       RaiserOf<AdviceButton>("StrategyListBoxVisibilityChanged",
-                             [](HeadlessSite& site, AdviceButton& button) {
-                               Press(button, button.Children.mnuSelectStrategy, site);
-                             }),
+                             [](HeadlessSite& site, AdviceButton& button) { OpenTheList(site, button); }),
   };
   entry.neverRaised = {"AdviceRecommendation"};
   return entry;
@@ -92,9 +90,9 @@ CatalogueEntry DecisionEntry() {
                          }),
       MenuRaiser("BurnACardRequested", &Widgets::cmdOptions, &Widgets::mnuBurnACard),
       RaiserOf<Decision>("EvaluationStrategySelected",
-                         [](HeadlessSite& site, Decision& box) {
+                         [](HeadlessSite&, Decision& box) {
                            box.DecisionBoxType(1);
-                           PickAStrategy(site, box.Children.AdviceButton);
+                           PickAStrategy(box.Children.AdviceButton);
                          }),
       PredictionRaiser("HitCardHiPrediction", ShiftKey),
       PredictionRaiser("HitCardLoPrediction", CtrlKey),

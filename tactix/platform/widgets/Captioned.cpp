@@ -44,6 +44,8 @@ char AccessKeyOf(std::string_view caption) {
 }
 
 std::string PlainCaption(std::string_view caption) {
+  // Nearly every caption; front ends ask with each change.
+  if (caption.find('&') == std::string_view::npos) return std::string(caption);
   std::string plain;
   for (std::size_t i = 0; i < caption.size(); ++i) {
     if (caption[i] == '&' && ++i == caption.size()) break;

@@ -1,0 +1,186 @@
+#include "tactix/decision/AdviceButton.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tactix/platform/headless/HeadlessSite.h"
+#include "tests/platform/ErrorCode.h"
+#include "tests/support/EventRecorder.h"
+#include "tests/support/FakeCatalogue.h"
+
+namespace tactix::tests {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class AdviceButtonTest : public testing::Test {
+ protected:
+  AdviceButtonTest() {
+    button_->InitProperties();
+    recorder_.Watch(button_->Events.All());
+  }
+  std::string Checked() const {
+    std::string checked;
+    for (const MenuEntry& entry : children_.mnuButtonBlink) checked += entry.Checked() ? 'x' : '-';
+    return checked;
+  }
+  void ChooseBlink(std::size_t index) {
+    site_.ScriptMenu([this, index](Menu&) { children_.mnuButtonBlink[index].Choose(); });
+    children_.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});
+  }
+
+  HeadlessSite site_;
+  std::unique_ptr<AdviceButton> button_ = std::make_unique<AdviceButton>(site_);
+  AdviceButton::ChildWidgets& children_ = button_->Children;
+  EventRecorder recorder_;
+};
+
+TEST_F(AdviceButtonTest, NumbersAndNamesItsEvents) {
+  Texts events;
+  const auto note = [&](auto&... each) {
+    (events.push_back(std::to_string(each.Number()) + " " + std::string(each.Name())), ...);
+  };
+  std::apply(note, button_->Events.All());
+  EXPECT_EQ(events, (Texts{"1 Click", "2 AdviceRecommendation", "3 AdviceStrategySelected",
+                           "4 StrategyListBoxVisibilityChanged"}));
+}
+
+TEST_F(AdviceButtonTest, HasItsDesign) {
+  EXPECT_EQ(button_->Caption(), "&Ask Kelvo for Advice");
+  EXPECT_EQ(children_.cmdAdviceButton.Font().Name, "Comic Sans MS");
+  EXPECT_EQ(children_.cmdAdviceButton.Name(), "cmdAdviceButton");
+  EXPECT_EQ(children_.StrategyListBox.Extender().Name(), "StrategyListBox");
+  EXPECT_EQ(children_.StrategyListBox.Text(), "Select a Strategy");
+  EXPECT_FALSE(children_.StrategyListBox.Extender().Visible());
+  EXPECT_FALSE(button_->DEFAULT());
+  EXPECT_FALSE(button_->Enabled());
+  EXPECT_TRUE(button_->Extender().Enabled());
+  EXPECT_EQ(button_->WhichStrategyToUse(), 0);
+  EXPECT_FALSE(children_.BlinkTimer.Enabled());
+}
+
+TEST_F(AdviceButtonTest, HasItsMenu) {
+  const auto captions = [](const MenuEntry& menu) {
+    Texts texts;
+    for (const MenuEntry* entry : menu.Entries()) {
+      texts.push_back(entry->Caption() + " " + std::to_string(entry->Index()));
+    }
+    return texts;
+  };
+  EXPECT_EQ(children_.mnuAdviceOptions.Caption(), "Advice &Options");
+  EXPECT_EQ(captions(children_.mnuAdviceOptions), (Texts{"&Blink Advice Button 0", "- 0", "&Select Strategy 0"}));
+  EXPECT_EQ(captions(children_.mnuBlinkAdviceButton),
+            (Texts{"&Never 0", "- 1", "&Every Time 2", "- 3", "1st &Time this Hand 4"}));
+  EXPECT_EQ(Checked(), "x----");
+}
+
+TEST_F(AdviceButtonTest, ABlinkModeIsTheOnlyOneChecked) {
+  const struct {
+    std::size_t index;
+    const char* checked;
+  } rows[] = {{2, "--x--"}, {2, "--x--"}, {4, "----x"}, {1, "----x"}, {3, "----x"}, {0, "x----"}, {0, "x----"}};
+  for (const auto& row : rows) {
+    ChooseBlink(row.index);
+    EXPECT_EQ(Checked(), row.checked) << "after choosing " << row.index;
+  }
+  EXPECT_EQ(recorder_.Take(), Texts{});
+}
+
+TEST_F(AdviceButtonTest, OnlyTheRightMouseButtonOpensTheMenuAtTheMouse) {
+  button_->Extender().Place(100, 200, 3000, 900);
+  for (std::int16_t button = 0; button < 8; ++button) {
+    site_.ForgetRecords();
+    children_.cmdAdviceButton.MouseDown({button, 7, 30, 40});
+    const bool opens = button == 2 || button == 3 || button == 6 || button == 7;
+    ASSERT_EQ(site_.PopUps().size(), opens ? 1U : 0U) << button;
+    if (!opens) continue;
+    EXPECT_EQ(site_.PopUps()[0].caption, "Advice &Options");
+    EXPECT_EQ(site_.PopUps()[0].x, children_.cmdAdviceButton.Left() + 30);
+    EXPECT_EQ(site_.PopUps()[0].y, children_.cmdAdviceButton.Top() + 40);
+  }
+  EXPECT_EQ(recorder_.Take(), Texts{});
+}
+
+TEST_F(AdviceButtonTest, BlinksWhenItsModeSaysSo) {
+  const struct {
+    std::size_t mode;
+    bool blinks;
+  } rows[] = {{0, false}, {2, true}, {4, false}, {2, true}};
+  for (const auto& row : rows) {
+    ChooseBlink(row.mode);
+    children_.cmdAdviceButton.DEFAULT(false);
+    const std::int64_t before = site_.Now();
+    button_->BlinkIfNecessary();
+    EXPECT_EQ(site_.Now() - before, row.blinks ? 1600 : 0) << row.mode;
+    EXPECT_EQ(button_->DEFAULT(), row.blinks);
+    button_->GotFocus();
+    EXPECT_EQ(site_.Now() - before, row.blinks ? 3200 : 0) << row.mode;
+  }
+}
+
+TEST_F(AdviceButtonTest, AClickThatBringsTheFocusBlinksFirst) {
+  ChooseBlink(2);
+  children_.cmdAdviceButton.Click();
+  EXPECT_EQ(site_.Now(), 1600);
+  EXPECT_EQ(recorder_.Take(), Texts{"Click#1"});
+}
+
+TEST_F(AdviceButtonTest, EnabledIsTheDefaultFlag) {
+  button_->Enabled(true);
+  EXPECT_TRUE(button_->DEFAULT());
+  EXPECT_TRUE(children_.cmdAdviceButton.DEFAULT());
+  button_->DEFAULT(false);
+  EXPECT_FALSE(button_->Enabled());
+  button_->DEFAULT(true);
+  button_->Enabled(false);
+  EXPECT_FALSE(button_->DEFAULT());
+  EXPECT_TRUE(children_.cmdAdviceButton.Enabled());
+  EXPECT_TRUE(button_->Extender().Enabled());
+}
+
+TEST_F(AdviceButtonTest, StoresWhatTheHostStores) {
+  button_->WhichStrategyToUse(-7);
+  EXPECT_EQ(button_->WhichStrategyToUse(), -7);
+  button_->Caption("&Help");
+  EXPECT_EQ(button_->Caption(), "&Help");
+  EXPECT_EQ(children_.cmdAdviceButton.Caption(), "&Help");
+  EXPECT_EQ(site_.Changes(), Texts{});
+}
+
+TEST_F(AdviceButtonTest, HandsTheStrategiesToItsList) {
+  const ObjectRef strategies = std::make_shared<FakeCollection>(8);
+  EXPECT_EQ(button_->AdviceStrategyList(strategies), strategies);
+  EXPECT_EQ(children_.StrategyListBox.StrategyCount(), 8);
+  EXPECT_EQ(strategies.use_count(), 2);
+  button_->Terminated();
+  EXPECT_EQ(strategies.use_count(), 1);
+  EXPECT_EQ(ErrorCodeOf([&] { button_->AdviceStrategyList(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { button_->AdviceStrategyList(std::make_shared<FakeCollection>(40000)); }), 6);
+}
+
+TEST_F(AdviceButtonTest, TheStrategiesMayDestroyTheButton) {
+  const auto strategies = std::make_shared<FakeCollection>(8);
+  strategies->OnCount = [&] { button_.reset(); };
+  EXPECT_EQ(button_->AdviceStrategyList(strategies), strategies);
+  EXPECT_EQ(button_, nullptr);
+}
+
+TEST_F(AdviceButtonTest, BothElementsTakeTheControlsWidth) {
+  for (const float width : {5000.0F, 100.0F, 0.0F}) {
+    button_->Extender().Width(width);
+    EXPECT_EQ(children_.cmdAdviceButton.Width(), width);
+    EXPECT_EQ(children_.StrategyListBox.Extender().Width(), width);
+    EXPECT_EQ(children_.StrategyListBox.Children.StrategyListBox.Width(), width);
+  }
+}
+
+TEST_F(AdviceButtonTest, KeepsTheListsNoticesToItself) {
+  children_.StrategyListBox.Text("x");
+  EXPECT_EQ(site_.Changes(), Texts{});
+}
+
+}  // namespace
+}  // namespace tactix::tests
