@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QRect>
 #include <QString>
+#include <array>
 
 #include "tactix-qt/Export.h"
 
@@ -23,11 +24,16 @@ class TACTIX_QT_EXPORT FittedText {
                        const QPaintDevice* device);
 
  private:
+  /// Whether the text surely fits on one line. Laying it out costs many times as much, and a prompt is another one with
+  /// every hand.
+  bool FitsWithEase(const QPaintDevice* device);
+
   QString text_;
   QFont asked_;
   QSize room_;
   int flags_ = -1;
   QFont fitted_;
+  std::array<float, 127> widths_;  // of the ASCII letters in the font asked for; negative: not known yet
 };
 
 }  // namespace tactix::qt

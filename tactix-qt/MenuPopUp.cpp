@@ -67,6 +67,7 @@ void MenuPopUp::Run(const QPoint& global, ControlWidget& within) {
   window_ = within.window();
   menu->Opened(*site_.Get());
   native_.setPalette(within.palette());
+  if (native_.isEmpty()) return menu->Close();
   // Without a transient parent some window systems refuse a pop-up.
   native_.winId();
   native_.windowHandle()->setTransientParent(window_->windowHandle());

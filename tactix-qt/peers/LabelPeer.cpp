@@ -8,8 +8,8 @@
 namespace tactix::qt {
 
 LabelPeer::LabelPeer(Label& label, QtSite& site, QWidget* parent) : NativePeer(label, site, parent) {
+  // No setWordWrap(): it wraps as it paints, and QLabel would lay every new text out for a size hint that nobody asks.
   setTextFormat(Qt::PlainText);
-  setWordWrap(true);
   setText(ToQt(label.Caption()));
 }
 

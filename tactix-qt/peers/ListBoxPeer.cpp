@@ -15,9 +15,6 @@ namespace tactix::qt {
 
 ListBoxPeer::ListBoxPeer(ListBox& box, QtSite& site, QWidget* parent) : NativePeer(box, site, parent) {
   setFocusPolicy(Qt::StrongFocus);
-  // Else each row that is added asks for a new layout.
-  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  view()->setTextElideMode(Qt::ElideNone);
   for (std::int32_t row = 0; row < box.ListCount(); ++row) addItem(ToQt(box.List(row)));
   ShowRow();
   connect(this, &QComboBox::activated, this, [this](int row) { Picked(row); });
@@ -35,7 +32,8 @@ void ListBoxPeer::Picked(int row) {
 
 void ListBoxPeer::RowInserted(ListBox& box, std::int32_t row) {
   insertItem(row, ToQt(box.List(row)));
-  ShowRow();
+  // Not ShowRow(): a fill would pay for it with every row. But Qt picks the first row of a list by itself.
+  if (currentIndex() != box.ListIndex()) setCurrentIndex(box.ListIndex());
 }
 
 void ListBoxPeer::RowsCleared(ListBox&) {
@@ -94,6 +92,8 @@ void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
 void ListBoxPeer::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ListBoxPeer::showPopup() {
+  // Not earlier: a view slows down every fill, and with its gestures every event of the process.
+  view()->setTextElideMode(Qt::ElideNone);
   const int scrollBar = count() > maxVisibleItems() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar + 2 * view()->frameWidth());
   QComboBox::showPopup();

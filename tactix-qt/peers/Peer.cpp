@@ -114,7 +114,7 @@ void Peer::ShowAccessibleName() {
   if (kind == WidgetKind::PushButton || kind == WidgetKind::Label) {
     name = ToQt(PlainCaption(static_cast<const Captioned*>(widget_)->Caption()));
   }
-  if (name.isEmpty()) name = ToQt(widget_->ToolTipText());
+  if (name.isEmpty()) name = native_.toolTip();
   native_.setAccessibleName(name.isEmpty() ? ToQt(widget_->Name()) : name);
 }
 
