@@ -71,9 +71,7 @@ void Session::Follow(std::shared_ptr<const Strategy> strategy) {
   strategy_ = std::move(strategy);
 }
 
-Card Session::Burn() { return shoe_.Draw(); }
-
-bool Session::PredictTensRatio(bool high) {
+std::optional<bool> Session::PredictTensRatio(bool high) {
   const auto dealt = shoe_.Dealt();
   std::vector<Card> seen(dealt.begin(), dealt.end());
   if (!IsOver()) {
@@ -81,6 +79,7 @@ bool Session::PredictTensRatio(bool high) {
     const auto hole = std::find(seen.begin(), seen.end(), round_->DealerHand().Cards()[1]);
     if (hole != seen.end()) seen.erase(hole);
   }
+  if (seen.size() >= static_cast<std::size_t>(rules_.decks) * CardsPerDeck) return std::nullopt;
   return predictions_.PredictTensRatio(high, rules_.decks, seen);
 }
 

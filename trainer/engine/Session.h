@@ -56,14 +56,16 @@ class Session {
 
   /// The strategy that advises from now on; basic strategy at first. It must not be null.
   void Follow(std::shared_ptr<const Strategy> strategy);
+  [[nodiscard]] const Strategy& TheStrategy() const { return *strategy_; }
 
-  /// Burns a card off the shoe.
-  Card Burn();
+  /// Burns a card off the shoe, any number of times.
+  Card Burn() { return shoe_.Burn(); }
 
   engine::Predictions& Predictions() { return predictions_; }
   [[nodiscard]] const engine::Predictions& Predictions() const { return predictions_; }
-  /// Whether the tens ratio of the cards that the player has not seen is high, or low; judged at once.
-  bool PredictTensRatio(bool high);
+  /// Whether the tens ratio of the cards that the player has not seen is high, or low; judged at once. Nothing, and not
+  /// counted, when the player has seen them all.
+  std::optional<bool> PredictTensRatio(bool high);
 
   [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
   [[nodiscard]] const Rules& TheRules() const { return rules_; }

@@ -57,6 +57,16 @@ Card Shoe::Draw() {
   return card;
 }
 
+Card Shoe::Burn() {
+  const Card card = Draw();
+  // The cards on the table move up by one, and the burned one goes before them.
+  const auto begin = cards_.begin();
+  const auto end = begin + static_cast<std::ptrdiff_t>(next_);
+  std::rotate(begin + static_cast<std::ptrdiff_t>(tableBegin_), end - 1, end);
+  ++tableBegin_;
+  return card;
+}
+
 void Shoe::Shuffle() {
   next_ = 0;
   tableBegin_ = 0;

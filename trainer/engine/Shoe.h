@@ -36,6 +36,9 @@ class Shoe final : public CardSource {
   /// true: that round is still the last one.
   [[nodiscard]] bool NeedsShuffle() const { return cutCardIsOut_; }
 
+  /// Draws the next card past the table to the discards: it is not in this round and cannot make the shoe run out.
+  Card Burn();
+
   /// Takes all cards back, those on the table too.
   void Shuffle();
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTimer>
@@ -20,9 +21,12 @@ namespace trainer::screens {
 namespace {
 
 constexpr int WrongInHundred = 15;
-constexpr int AdviceEvery = 9;      // decisions
-constexpr int PredictionEvery = 4;  // decisions
-constexpr int MidFlash = 500;       // ms into an advice flash: the button is shown for the second time
+constexpr int AdviceEvery = 9;    // decisions
+constexpr int MostAdvice = 5;     // asked for: each time takes as long as the button flashes
+constexpr int HitCardEvery = 4;   // decisions, if it is a hit
+constexpr int HoleCardEvery = 6;  // decisions
+constexpr int MidFlash = 500;     // ms into an advice flash: the button is hidden for the second time
+constexpr int MenuPause = 10;     // ms between looks for the open menu
 
 struct PlayInput {
   engine::Decision decision;
@@ -66,6 +70,21 @@ std::string CardNames(const engine::Hand& hand) {
   return names;
 }
 
+/// "hard 14" or, with both of its totals, "hard 5 soft 15".
+std::string Totals(const engine::Hand& hand) {
+  std::string totals = "hard " + std::to_string(hand.HardTotal());
+  if (hand.IsSoft()) totals += " soft " + std::to_string(hand.Total());
+  return totals;
+}
+
+/// A menu runs until it is answered, so the key is on its way before the menu opens.
+void AnswerNextMenu(QObject* context, Qt::Key key) {
+  QTimer::singleShot(MenuPause, context, [context, key] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    menu ? PressKey(*menu, key) : AnswerNextMenu(context, key);
+  });
+}
+
 }  // namespace
 
 Demo::Demo(TrainerWindow& window, DemoOptions options, std::ostream& out)
@@ -96,22 +115,33 @@ bool Demo::Run() {
 
 void Demo::PlayOneDecision() {
   ++decisions_;
-  if (decisions_ % AdviceEvery == 2) {
-    QTimer::singleShot(MidFlash, this, [this] { Snapshot(QStringLiteral("advice")); });
-    Click(*Find("cmdAdviceButton"));
-  }
+  if (decisions_ % HoleCardEvery == 3) PredictTheHoleCard();
+  if (decisions_ % AdviceEvery == 2 && decisions_ < AdviceEvery * MostAdvice) AskForAdvice();
   Press(Choose());
+}
+
+void Demo::AskForAdvice() {
+  QTimer::singleShot(MidFlash, this, [this] { Snapshot(QStringLiteral("flash")); });
+  Click(Find("cmdAdviceButton"));
+  Snapshot(QStringLiteral("advice"));
+}
+
+void Demo::PredictTheHoleCard() {
+  AnswerNextMenu(this, random_.Below(2) == 0 ? Qt::Key_H : Qt::Key_L);
+  Click(Find("cmdHoleCard"));
+  Snapshot(QStringLiteral("prediction"));
 }
 
 engine::Decision Demo::Choose() {
   const engine::Session& session = window_.CurrentSession();
   const engine::Decision advised = session.Advised();
   if (random_.Below(100) >= WrongInHundred) return advised;
+  const engine::LegalPlays legal = session.CurrentRound().Legal();
+  // Who errs with a pair splits it.
+  if (advised != engine::Decision::Split && legal.Allows(engine::Decision::Split)) return engine::Decision::Split;
   std::vector<engine::Decision> others;
   for (const PlayInput& input : PlayInputs) {
-    if (input.decision != advised && session.CurrentRound().Legal().Allows(input.decision)) {
-      others.push_back(input.decision);
-    }
+    if (input.decision != advised && legal.Allows(input.decision)) others.push_back(input.decision);
   }
   return others.empty() ? advised : others[random_.Below(others.size())];
 }
@@ -119,9 +149,9 @@ engine::Decision Demo::Choose() {
 void Demo::Press(engine::Decision decision) {
   for (const PlayInput& input : PlayInputs) {
     if (input.decision != decision) continue;
-    const bool predicts = decision == engine::Decision::Hit && decisions_ % PredictionEvery == 0;
+    const bool predicts = decision == engine::Decision::Hit && decisions_ % HitCardEvery == 0;
     if (predicts || decisions_ % 2 == 0) {
-      Click(*Find(input.button), predicts ? Qt::ShiftModifier : Qt::NoModifier);
+      Click(Find(input.button), predicts ? Qt::ShiftModifier : Qt::NoModifier);
     } else {
       PressKey(window_, input.key);
     }
@@ -130,14 +160,20 @@ void Demo::Press(engine::Decision decision) {
 
 void Demo::Print(const DecisionRecord& record) {
   const engine::Judgement& judgement = record.judgement;
-  out_ << "hand " << record.hand << ": " << CardNames(record.cards) << " (" << engine::WordFor(record.cards)
-       << ") against " << engine::WordFor(record.upCard) << ", advised " << engine::WordFor(judgement.advised)
-       << ", chosen " << engine::WordFor(judgement.chosen) << ", " << (judgement.IsRight() ? "right" : "wrong")
-       << std::endl;
+  out_ << "hand " << record.round;
+  if (record.splitHand != 0) out_ << '.' << record.splitHand;
+  out_ << ": " << CardNames(record.cards) << ", " << Totals(record.cards) << ", against "
+       << engine::WordFor(record.upCard) << ", advised " << engine::WordFor(judgement.advised) << ", chosen "
+       << engine::WordFor(judgement.chosen) << ", " << (judgement.IsRight() ? "right" : "wrong") << std::endl;
   QApplication::processEvents();
-  if (!judgement.IsRight()) Snapshot(QStringLiteral("wrong"));
-  if (judgement.chosen == engine::Decision::Split) Snapshot(QStringLiteral("split"));
-  if (window_.CurrentSession().IsOver()) Snapshot(QStringLiteral("result"));
+  if (judgement.chosen == engine::Decision::Split) {
+    Snapshot(QStringLiteral("split"));
+  } else if (!judgement.IsRight()) {
+    Snapshot(QStringLiteral("wrong"));
+  }
+  if (window_.CurrentSession().IsOver()) {
+    Snapshot(record.splitHand == 0 ? QStringLiteral("result") : QStringLiteral("split-result"));
+  }
 }
 
 void Demo::Snapshot(const QString& moment) {
@@ -147,8 +183,8 @@ void Demo::Snapshot(const QString& moment) {
   if (!window_.grab().save(QDir(options_.snapshotFolder).filePath(name))) picturesWritten_ = false;
 }
 
-QWidget* Demo::Find(const char* name) const {
-  if (auto* const widget = window_.findChild<QWidget*>(QLatin1String(name))) return widget;
+QWidget& Demo::Find(const char* name) const {
+  if (auto* const widget = window_.findChild<QWidget*>(QLatin1String(name))) return *widget;
   throw std::logic_error(std::string("the window has no ") + name);
 }
 

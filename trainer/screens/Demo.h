@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <iosfwd>
 
@@ -13,12 +14,13 @@ namespace trainer::screens {
 struct DemoOptions {
   int hands = 20;
   std::uint64_t seed = 1;
-  /// Where pictures of the window go; empty for none.
+  /// Where pictures of the window go; empty for none. The folder must exist.
   QString snapshotFolder;
 };
 
-/// Plays hands through a trainer window with key and mouse events on its widgets, mostly right and sometimes wrong, and
-/// prints a line for each decision and a closing one. The same seed gives the same lines.
+/// Plays hands through a trainer window with key and mouse events on its widgets, mostly right and sometimes wrong; it
+/// asks for advice and predicts cards now and then. It prints a line for each decision and a closing one;
+/// docs/trainer.md says what is in them. The same seed gives the same lines.
 class Demo : public QObject {
   Q_OBJECT
 
@@ -30,11 +32,13 @@ class Demo : public QObject {
 
  private:
   void PlayOneDecision();
+  void AskForAdvice();
+  void PredictTheHoleCard();
   [[nodiscard]] engine::Decision Choose();
   void Press(engine::Decision decision);
   void Print(const DecisionRecord& record);
   void Snapshot(const QString& moment);
-  QWidget* Find(const char* name) const;
+  QWidget& Find(const char* name) const;
 
   TrainerWindow& window_;
   DemoOptions options_;

@@ -2,11 +2,12 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "trainer/engine/Words.h"
 #include "trainer/screens/HandBlock.h"
+#include "trainer/screens/Messages.h"
+#include "trainer/screens/ScoreBar.h"
 #include "trainer/screens/TableOf.h"
 #include "trainer/screens/TableStrategy.h"
 #include "trainer/screens/TableView.h"
@@ -15,19 +16,26 @@ namespace trainer::screens {
 
 namespace {
 
-QString Text(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+constexpr QSize FirstSize(900, 780);
+constexpr int NoAdvice = 0;
+/// A little less than an advised button flashes.
+constexpr qint64 FlashMilliseconds = 1500;
 
-/// "Stand on 16 against 10", "Split a pair of 8s against 6", "Hit soft 17 against ace".
-QString PlayText(engine::Decision decision, const engine::Hand& hand, engine::Rank upCard) {
-  const QString join = decision == engine::Decision::Stand ? QStringLiteral(" on ") : QStringLiteral(" ");
-  const QString article = hand.IsPair() ? QStringLiteral("a ") : QString();
-  return Text(engine::WordFor(decision)) + join + article + Text(engine::WordFor(hand)) + QStringLiteral(" against ") +
-         Text(engine::WordFor(upCard));
+QString RangeText(engine::CardRange range) {
+  switch (range) {
+    case engine::CardRange::Low:
+      return QStringLiteral("low");
+    case engine::CardRange::Mid:
+      return QStringLiteral("mid");
+    case engine::CardRange::High:
+      break;
+  }
+  return QStringLiteral("high");
 }
 
-QString PredictionText(const QString& what, std::optional<bool> right) {
-  if (!right) return {};
-  return QStringLiteral(" %1 %2.").arg(what, *right ? QStringLiteral("right") : QStringLiteral("wrong"));
+QString PredictionText(const QString& card, std::optional<engine::CardRange> range) {
+  return range ? QStringLiteral("Your prediction: the %1 is %2.").arg(card, RangeText(*range))
+               : QStringLiteral("No prediction of the %1.").arg(card);
 }
 
 }  // namespace
@@ -38,23 +46,23 @@ TrainerWindow::TrainerWindow(engine::Session session,
       session_(std::move(session)),
       catalogue_(std::move(catalogue)),
       table_(new TableView(this)),
-      tally_(new QLabel(this)),
+      score_(new ScoreBar(this)),
       box_(new tactix::qt::Decision(this)) {
   setWindowTitle(QStringLiteral("Tactix Trainer"));
   auto* const central = new QWidget(this);
   auto* const layout = new QVBoxLayout(central);
   layout->addWidget(table_, 1);
-  layout->addWidget(tally_);
+  layout->addWidget(score_);
   layout->addWidget(box_);
   setCentralWidget(central);
-  tally_->setAccessibleName(QStringLiteral("Score"));
+  resize(FirstSize);
 
   box_->DecisionBoxType(tactix::qt::Decision::forUseWithBlackjackTable);
   box_->AllowAdvice(tactix::qt::Decision::LargeButton);
   box_->ToolTipMessage(QStringLiteral("basic strategy"));
   box_->setFocus();
   Connect();
-  ShowTally();
+  ShowScore();
 }
 
 void TrainerWindow::Connect() {
@@ -83,14 +91,16 @@ void TrainerWindow::Connect() {
 
 void TrainerWindow::Deal() {
   session_.Deal();
-  if (session_.IsOver()) {
-    ShowTable(QStringLiteral("No decision to make. Any play deals the next hand."));
-    ShowTally();
-    Q_EMIT RoundOver();
-  } else {
-    ShowTable(QStringLiteral("Your play?"));
-    Ask();
-  }
+  const bool over = session_.IsOver();
+  ShowTable(ThenGoOn(over ? DealtRoundText(session_.CurrentRound(), session_.TheRules()) : QString()));
+  ShowScore();
+  Expect();
+}
+
+/// Waits for a decision, or between rounds for any play.
+void TrainerWindow::Expect() {
+  sinceHandWasShown_.start();
+  session_.IsOver() ? box_->GiveAdvice(NoAdvice) : Ask();
 }
 
 void TrainerWindow::Ask() {
@@ -101,25 +111,31 @@ void TrainerWindow::Ask() {
 void TrainerWindow::Decide(engine::Decision decision) {
   if (session_.IsOver()) return Deal();
   const engine::Round& round = session_.CurrentRound();
-  DecisionRecord record{session_.CurrentTally().hands + 1, round.ActiveHand().hand, round.UpCard(), {}};
+  const engine::HandPlace place = round.ActivePlace();
+  DecisionRecord record;
+  record.round = session_.CurrentTally().hands + 1;
+  record.splitHand = round.HandsOf(place.seat).size() > 1 ? static_cast<int>(place.hand) + 1 : 0;
+  record.cards = round.ActiveHand().hand;
+  record.upCard = round.UpCard();
   const auto judgement = session_.Decide(decision);
   if (!judgement) {
-    ShowTable(Text(engine::WordFor(decision)) + QStringLiteral(" is not possible with this hand."));
+    ShowTable(ThenGoOn(ToQt(engine::WordFor(decision)) + QStringLiteral(" is not possible with this hand.")));
     return Ask();
   }
   record.judgement = *judgement;
 
-  const bool right = judgement->IsRight();
-  QString message = right ? QStringLiteral("Right: ") : QStringLiteral("Better: ");
-  message += PlayText(judgement->advised, record.cards, record.upCard) + QLatin1Char('.');
-  message += PredictionText(QStringLiteral("Hit card predicted"), judgement->hitCardPrediction);
-  message += PredictionText(QStringLiteral("Hole card predicted"), judgement->holeCardPrediction);
-  if (session_.IsOver()) message += QStringLiteral(" Any play deals the next hand.");
-  ShowTable(message, right ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
-  ShowTally();
-  if (!session_.IsOver()) Ask();
+  QString message = JudgementText(*judgement, record.cards, record.upCard, strategy_);
+  if (session_.IsOver()) message = ThenGoOn(message);
+  ShowTable(message, judgement->IsRight() ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
+  ShowScore();
+  Expect();
   Q_EMIT Judged(record);
-  if (session_.IsOver()) Q_EMIT RoundOver();
+}
+
+QString TrainerWindow::ThenGoOn(const QString& message) const {
+  const QString next =
+      session_.IsOver() ? QStringLiteral("Any play deals the next hand.") : QStringLiteral("Your play?");
+  return message.isEmpty() ? next : message + QLatin1Char(' ') + next;
 }
 
 void TrainerWindow::ShowTable(const QString& message, TableModel::Verdict verdict) {
@@ -129,74 +145,71 @@ void TrainerWindow::ShowTable(const QString& message, TableModel::Verdict verdic
   table_->SetModel(std::move(model));
 }
 
-void TrainerWindow::ShowTally() {
-  const engine::Tally& tally = session_.CurrentTally();
-  const engine::Predictions& predictions = session_.Predictions();
-  tally_->setText(QStringLiteral("Hands %1    Decisions %2    Correct %3 (%4 %)    Predictions %5 of %6    Won %7")
-                      .arg(tally.hands)
-                      .arg(tally.decisions)
-                      .arg(tally.correct)
-                      .arg(tally.CorrectPercent(), 0, 'f', 1)
-                      .arg(predictions.Right())
-                      .arg(predictions.Made())
-                      .arg(Text(engine::SignedAmount(tally.net))));
-}
+void TrainerWindow::ShowScore() { score_->Show(session_.CurrentTally(), session_.Predictions()); }
 
 void TrainerWindow::PredictHitCard(std::optional<engine::CardRange> range) {
-  if (!session_.IsOver()) session_.Predictions().PredictHitCard(range);
+  // Between rounds the press belongs to a click that deals.
+  if (session_.IsOver()) return;
+  session_.Predictions().PredictHitCard(range);
+  ShowTable(ThenGoOn(PredictionText(QStringLiteral("hit card"), range)));
 }
 
 void TrainerWindow::PredictHoleCard(std::optional<engine::CardRange> range) {
-  if (session_.IsOver()) return;
+  if (!session_.HasRound()) return;
+  if (session_.IsOver()) return ShowTable(ThenGoOn(QStringLiteral("The hole card is open already.")));
   session_.Predictions().PredictHoleCard(range);
-  ShowTable(range ? QStringLiteral("Your hole-card prediction is noted. Your play?") : QStringLiteral("Your play?"));
+  ShowTable(ThenGoOn(PredictionText(QStringLiteral("hole card"), range)));
 }
 
 void TrainerWindow::PredictTensRatio(bool high) {
   if (!session_.HasRound()) return;
-  const bool right = session_.PredictTensRatio(high);
-  ShowTable((right == high) ? QStringLiteral("The cards to come are rich in tens.")
-                            : QStringLiteral("The cards to come are poor in tens."),
-            right ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
-  ShowTally();
+  const auto right = session_.PredictTensRatio(high);
+  if (!right) return ShowTable(ThenGoOn(QStringLiteral("No cards are left to predict.")));
+  const bool rich = *right == high;
+  ShowTable(ThenGoOn(rich ? QStringLiteral("The cards to come are rich in tens.")
+                          : QStringLiteral("The cards to come are poor in tens.")),
+            *right ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
+  ShowScore();
 }
 
 void TrainerWindow::SayAdvice() {
-  // The player may have played on while the button flashed.
-  if (session_.IsOver()) return;
+  // The player may have played on while the button flashed; the next hand's advice was not asked for.
+  if (session_.IsOver() || sinceHandWasShown_.elapsed() < FlashMilliseconds) return;
   const engine::Round& round = session_.CurrentRound();
-  ShowTable(QStringLiteral("Advice: ") + PlayText(session_.Advised(), round.ActiveHand().hand, round.UpCard()) +
-            QLatin1Char('.'));
+  const QString by = strategy_.isEmpty() ? QString() : QStringLiteral(" by ") + strategy_;
+  ShowTable(
+      QStringLiteral("Advice%1: %2.").arg(by, PlayText(session_.Advised(), round.ActiveHand().hand, round.UpCard())));
 }
 
 void TrainerWindow::FollowStrategy(int number) {
   const auto strategy = static_cast<std::int16_t>(number);
   const tactix::companion::PlayingTable* const table = catalogue_->TableOf(strategy);
   if (!table) {
-    if (session_.HasRound()) ShowTable(QStringLiteral("That seat plays no strategy; the advice stays as it was."));
+    if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("No such strategy; the advice stays as it was.")));
     return;
   }
   const std::string caption(catalogue_->CaptionOf(strategy));
+  strategy_ = ToQt(caption);
   session_.Follow(std::make_shared<TableStrategy>(caption, *table));
-  box_->ToolTipMessage(Text(caption));
-  if (session_.HasRound()) ShowTable(QStringLiteral("The advice now follows: %1.").arg(Text(caption)));
+  box_->ToolTipMessage(strategy_);
+  if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("The advice now follows %1.").arg(strategy_)));
   if (!session_.IsOver()) Ask();
 }
 
 void TrainerWindow::Burn() {
   if (!session_.HasRound()) return;
   const engine::Card burned = session_.Burn();
-  ShowTable(QStringLiteral("Burned: %1.").arg(Text(engine::WordFor(burned.rank))));
+  ShowTable(ThenGoOn(QStringLiteral("Burned: %1.").arg(ToQt(engine::WordFor(burned.rank)))));
 }
 
 void TrainerWindow::CopyHand() {
-  if (session_.IsOver()) return;
+  if (session_.IsOver()) return ShowTable(ThenGoOn(QStringLiteral("There is no hand to copy.")));
   const engine::Round& round = session_.CurrentRound();
   QString text;
-  for (const engine::Card card : round.ActiveHand().hand.Cards()) text += Text(engine::NameOf(card)) + QLatin1Char(' ');
+  for (const engine::Card card : round.ActiveHand().hand.Cards()) text += ToQt(engine::NameOf(card)) + QLatin1Char(' ');
   QGuiApplication::clipboard()->setText(text + QStringLiteral("against ") +
-                                        Text(engine::NameOf(round.DealerHand().Cards()[0])));
-  ShowTable(QStringLiteral("The hand is in the clipboard. Your play?"));
+                                        ToQt(engine::NameOf(round.DealerHand().Cards()[0])));
+  ShowTable(ThenGoOn(QStringLiteral("The hand is in the clipboard.")));
 }
 
 }  // namespace trainer::screens

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QString>
 #include <memory>
 #include <optional>
 
@@ -10,15 +12,15 @@
 #include "trainer/engine/Session.h"
 #include "trainer/screens/TableModel.h"
 
-class QLabel;
-
 namespace trainer::screens {
 
+class ScoreBar;
 class TableView;
 
 /// A decision as the window judged it, with what it was made on.
 struct DecisionRecord {
-  int hand = 0;  ///< counted from 1
+  int round = 0;      ///< counted from 1
+  int splitHand = 0;  ///< which of the seat's hands, counted from 1; 0 while it has one hand only
   engine::Hand cards;
   engine::Rank upCard = engine::Rank::Ace;
   engine::Judgement judgement;
@@ -37,19 +39,23 @@ class TrainerWindow : public QMainWindow {
   [[nodiscard]] const engine::Session& CurrentSession() const { return session_; }
   tactix::qt::Decision& Box() { return *box_; }
   TableView& Table() { return *table_; }
+  ScoreBar& Score() { return *score_; }
 
+  /// The next round. What is left of the last one is given up.
   void Deal();
 
  Q_SIGNALS:
+  /// After every decision, once the window shows what was right.
   void Judged(const trainer::screens::DecisionRecord& record);
-  void RoundOver();
 
  private:
   void Connect();
   void Decide(engine::Decision decision);
   void Ask();
+  void Expect();
   void ShowTable(const QString& message, TableModel::Verdict verdict = TableModel::Verdict::None);
-  void ShowTally();
+  void ShowScore();
+  [[nodiscard]] QString ThenGoOn(const QString& message) const;
   void PredictHitCard(std::optional<engine::CardRange> range);
   void PredictHoleCard(std::optional<engine::CardRange> range);
   void PredictTensRatio(bool high);
@@ -61,8 +67,10 @@ class TrainerWindow : public QMainWindow {
   engine::Session session_;
   std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue_;
   tactix::DecisionBlock block_;
+  QString strategy_;  // that the player has picked
+  QElapsedTimer sinceHandWasShown_;
   TableView* table_;
-  QLabel* tally_;
+  ScoreBar* score_;
   tactix::qt::Decision* box_;
 };
 
