@@ -36,7 +36,7 @@ option(TACTIX_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(TACTIX_BENCH "Build the benchmarks" OFF)
 option(TACTIX_EXAMPLES "Build the examples" OFF)
 option(TACTIX_LIBCXX "Build against libc++ (Clang only)" OFF)
-option(TACTIX_PCH "Precompile the Qt headers" OFF)
+option(TACTIX_PCH "Precompile the headers of Qt and of GoogleTest" OFF)
 set(TACTIX_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize= takes them")
 
 if(NOT TACTIX_QT)

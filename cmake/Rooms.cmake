@@ -10,19 +10,21 @@ function(tactix_glob_tree result)
   set(${result} ${found} PARENT_SCOPE)
 endfunction()
 
-# Headers with Q_OBJECT must be among the sources: moc finds only those that lie beside a source of the same name.
-# PRECOMPILE is worth its seconds where a target has many sources.
-function(tactix_use_qt target)
-  cmake_parse_arguments(arg "PRECOMPILE" "" "" ${ARGN})
-  set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
-  target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS)
-  target_link_libraries(${target} PRIVATE Qt6::Widgets)
-  if(TACTIX_PCH AND arg_PRECOMPILE)
-    target_precompile_headers(${target} PRIVATE <QtWidgets>)
+# Worth its seconds where a target has many sources.
+function(tactix_precompile target)
+  if(TACTIX_PCH)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND TACTIX_CCACHE)
       target_compile_options(${target} PRIVATE -fpch-preprocess)
     endif()
   endif()
+endfunction()
+
+# Headers with Q_OBJECT must be among the sources: moc finds only those that lie beside a source of the same name.
+function(tactix_use_qt target)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
+  target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS)
+  target_link_libraries(${target} PRIVATE Qt6::Widgets)
 endfunction()
 
 # A shared library names everything it needs; a sanitizer's runtime comes with the program only.

@@ -44,8 +44,8 @@ void DecisionCycle(benchmark::State& state) {
   for (int i = 0; i < 30 * WarmRounds; ++i) cycle();
   const std::size_t before = tactix::tests::Allocations();
   for (auto _ : state) cycle();
-  state.counters["allocations"] =
-      benchmark::Counter(static_cast<double>(tactix::tests::Allocations() - before), benchmark::Counter::kAvgIterations);
+  state.counters["allocations"] = benchmark::Counter(static_cast<double>(tactix::tests::Allocations() - before),
+                                                     benchmark::Counter::kAvgIterations);
   if (heard != round) state.SkipWithError("an event was not heard");
 }
 BENCHMARK(DecisionCycle);

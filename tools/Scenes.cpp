@@ -1,0 +1,155 @@
+#include "tools/Scenes.h"
+
+#include <QApplication>
+#include <QComboBox>
+
+#include "tactix-qt/AdviceButton.h"
+#include "tactix-qt/Decision.h"
+#include "tactix-qt/StrategyList.h"
+#include "tactix/companion/Companion.h"
+#include "tactix/companion/IniStrategyCatalogue.h"
+#include "trainer/screens/TrainerWindow.h"
+
+namespace tactix::tools {
+
+namespace {
+
+using WidgetRef = std::unique_ptr<QWidget>;
+
+constexpr std::int16_t BasicStrategy = 0;
+constexpr std::uint64_t Seed = 7;
+
+std::unique_ptr<qt::StrategyList> FilledStrategyList() {
+  auto list = std::make_unique<qt::StrategyList>();
+  list->LoadStrategiesFromIniFile();
+  return list;
+}
+
+WidgetRef MakeStrategyList() { return FilledStrategyList(); }
+
+WidgetRef MakeStrategyListWithChoice() {
+  auto list = FilledStrategyList();
+  list->SelectThisStrategy(BasicStrategy);
+  return list;
+}
+
+WidgetRef MakeStrategyListOpen() {
+  auto list = FilledStrategyList();
+  list->SelectThisStrategy(BasicStrategy);
+  list->show();
+  list->findChild<QComboBox*>()->showPopup();
+  return list;
+}
+
+WidgetRef MakeAdviceButton() { return std::make_unique<qt::AdviceButton>(); }
+
+WidgetRef MakeAdviceButtonWithList() {
+  auto button = std::make_unique<qt::AdviceButton>();
+  button->show();
+  button->control().Children.mnuSelectStrategy.Chosen.Raise();
+  return button;
+}
+
+DecisionBlock PairOfEights() {
+  DecisionBlock block;
+  block.PlayerName("Ann");
+  block.HardTotal(16);
+  block.MidCardsAre("Seven to nine");
+  block.SplitIsValid(true);
+  block.HardDoubleIsValid(true);
+  block.StrategyAdvice(static_cast<std::int16_t>(AdvicePossibilities::SplitAdvised));
+  return block;
+}
+
+std::unique_ptr<qt::Decision> MakeBox(qt::Decision::TypeOfDecisionBox type, const DecisionBlock& block) {
+  auto box = std::make_unique<qt::Decision>();
+  box->DecisionBoxType(type);
+  box->SetupTheDecisionBox(block);
+  return box;
+}
+
+WidgetRef MakeDecisionNew() { return std::make_unique<qt::Decision>(); }
+
+WidgetRef MakeDecisionForDrills() { return MakeBox(qt::Decision::forUseWithDrills, PairOfEights()); }
+
+WidgetRef MakeDecisionForTable() { return MakeBox(qt::Decision::forUseWithBlackjackTable, PairOfEights()); }
+
+WidgetRef MakeDecisionWithLargeAdvice() {
+  auto box = MakeBox(qt::Decision::forUseWithBlackjackTable, PairOfEights());
+  box->AllowAdvice(qt::Decision::LargeButton);
+  return box;
+}
+
+WidgetRef MakeDecisionWithDescription() {
+  auto box = MakeBox(qt::Decision::forUseWithBlackjackTable, PairOfEights());
+  box->show();
+  box->DiddleThePromptShit();
+  box->control().Children.StandButton.MouseMove({});
+  return box;
+}
+
+WidgetRef MakeDecisionWithPrediction() {
+  auto box = MakeBox(qt::Decision::forUseWithBlackjackTable, PairOfEights());
+  box->show();
+  box->DiddleThePromptShit();
+  box->control().Children.HitButton.MouseMove({0, CtrlKey | ShiftKey, 0, 0});
+  return box;
+}
+
+WidgetRef MakeDecisionRestricted() {
+  DecisionBlock block = PairOfEights();
+  block.HardTotal(6);
+  block.SoftTotal(6);
+  block.ManualPlayerRestrictions(true);
+  block.SplitIsValid(false);
+  return MakeBox(qt::Decision::forUseWithBlackjackTable, block);
+}
+
+WidgetRef MakeDecisionWithList() {
+  auto box = MakeBox(qt::Decision::forUseWithBlackjackTable, PairOfEights());
+  box->AllowAdvice(qt::Decision::LargeButton);
+  box->show();
+  box->control().Children.AdviceButton.Children.mnuSelectStrategy.Chosen.Raise();
+  return box;
+}
+
+std::unique_ptr<trainer::screens::TrainerWindow> MakeDealtTrainer() {
+  auto window = std::make_unique<trainer::screens::TrainerWindow>(
+      trainer::engine::Session({}, Seed), std::make_shared<companion::IniStrategyCatalogue>(
+                                              companion::DefaultStrategies(), companion::DefaultStrategiesName));
+  window->Deal();
+  return window;
+}
+
+WidgetRef MakeTrainer() { return MakeDealtTrainer(); }
+
+WidgetRef MakeTrainerWithResult() {
+  auto window = MakeDealtTrainer();
+  window->show();
+  while (!window->CurrentSession().IsOver()) window->Box().control().Children.HitButton.Click();
+  return window;
+}
+
+constexpr Scene AllScenes[] = {
+    {"strategy-list", MakeStrategyList},
+    {"strategy-list-choice", MakeStrategyListWithChoice},
+    {"strategy-list-open", MakeStrategyListOpen},
+    {"advice-button", MakeAdviceButton},
+    {"advice-button-list", MakeAdviceButtonWithList},
+    {"decision-new", MakeDecisionNew},
+    {"decision-drill", MakeDecisionForDrills},
+    {"decision-table", MakeDecisionForTable},
+    {"decision-large-advice", MakeDecisionWithLargeAdvice},
+    {"decision-description", MakeDecisionWithDescription},
+    {"decision-prediction", MakeDecisionWithPrediction},
+    {"decision-restricted", MakeDecisionRestricted},
+    {"decision-list", MakeDecisionWithList},
+    {"trainer", MakeTrainer},
+    {"trainer-result", MakeTrainerWithResult},
+};
+
+}  // namespace
+
+std::span<const Scene> Scenes() { return AllScenes; }
+
+}  // namespace tactix::tools
