@@ -28,8 +28,11 @@ std::function<void()>& BeepHook() {
 }
 
 Color AmbientColor(const QWidget& widget, QPalette::ColorRole role, Color systemColor) {
-  const QPalette& palette = widget.palette();
-  return palette.isBrushSet(QPalette::Active, role) ? FromQt(palette.color(QPalette::Active, role)) : systemColor;
+  // A widget takes its parents' colours over, but not that they were set.
+  for (const QWidget* at = &widget; at; at = at->isWindow() ? nullptr : at->parentWidget()) {
+    if (at->palette().isBrushSet(QPalette::Active, role)) return FromQt(widget.palette().color(QPalette::Active, role));
+  }
+  return systemColor;
 }
 
 }  // namespace
@@ -122,8 +125,10 @@ void QtSite::ReportArrival() {
 
 void QtSite::FocusLeft() {
   if (settingFocus_) return;
-  QWidget* const now = QApplication::focusWidget();
-  if (now && widget_.isAncestorOf(now)) return;
+  // Not isAncestorOf(): a list that drops down is a window, and the focus is still the control's.
+  for (const QWidget* now = QApplication::focusWidget(); now; now = now->parentWidget()) {
+    if (now == &widget_) return;
+  }
   arrived_ = {};
   focus_.MoveTo(nullptr);
 }

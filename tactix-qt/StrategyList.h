@@ -27,6 +27,7 @@ class TACTIX_QT_EXPORT StrategyList : public ControlWidget {
   Q_PROPERTY(int SelectThisStrategy READ SelectThisStrategy WRITE SelectThisStrategy STORED false DESIGNABLE false)
   Q_PROPERTY(int Style READ Style STORED false)
   Q_PROPERTY(bool Visible READ Visible WRITE Visible)
+  Q_PROPERTY(int StrategyCount READ StrategyCount STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::TypeOfStrategyControl. Other numbers are kept, too.

@@ -18,6 +18,7 @@ using WidgetRef = std::unique_ptr<QWidget>;
 
 constexpr std::int16_t BasicStrategy = 0;
 constexpr std::uint64_t Seed = 7;
+constexpr QSize TrainerSize(660, 580);
 
 std::unique_ptr<qt::StrategyList> FilledStrategyList() {
   auto list = std::make_unique<qt::StrategyList>();
@@ -117,6 +118,7 @@ std::unique_ptr<trainer::screens::TrainerWindow> MakeDealtTrainer() {
   auto window = std::make_unique<trainer::screens::TrainerWindow>(
       trainer::engine::Session({}, Seed), std::make_shared<companion::IniStrategyCatalogue>(
                                               companion::DefaultStrategies(), companion::DefaultStrategiesName));
+  window->resize(TrainerSize);
   window->Deal();
   return window;
 }

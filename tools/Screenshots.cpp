@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int UsageError = 2;
+constexpr int SmallestFile = 0;  // as QPixmap::save counts quality
 
 QPalette DarkPalette() {
   struct Row {
@@ -100,7 +101,7 @@ int main(int argc, char** argv) {
     const QString file = QStringLiteral("%1-%2-%3x.png")
                              .arg(QLatin1String(scene.name), theme)
                              .arg(std::lround(picture.devicePixelRatio()));
-    if (!picture.save(folder.filePath(file))) {
+    if (!picture.save(folder.filePath(file), "PNG", SmallestFile)) {
       std::cerr << "cannot write " << folder.filePath(file).toStdString() << std::endl;
       return EXIT_FAILURE;
     }

@@ -89,7 +89,9 @@ bool Print(std::span<const Figure> figures, const Medians& medians) {
     std::string line = Padded(std::string(figure.what), 62) + Padded(value ? TextOf(figure, *value) : "missing", 12);
     const bool within = value && *value <= figure.most;
     if (figure.most != NoLimit) {
-      line += Padded("limit " + TextOf(figure, figure.most), 15) + (within ? "ok" : "EXCEEDED");
+      line += Padded("limit " + TextOf(figure, figure.most), 15) + (within  ? "ok"
+                                                                    : value ? "EXCEEDED"
+                                                                            : "NOT MEASURED");
     }
     std::printf("%s\n", line.c_str());
     good = good && within;

@@ -83,9 +83,7 @@ void StrategyList::DefaultContent(std::string_view text) {
   NotifyChanged("DefaultContent");
 }
 
-std::int16_t StrategyList::ListIndex() const {
-  return Variant(Children.StrategyListBox.ListIndex() - 1).ToInteger();
-}
+std::int16_t StrategyList::ListIndex() const { return Variant(Children.StrategyListBox.ListIndex() - 1).ToInteger(); }
 
 void StrategyList::ListIndex(std::int16_t strategy) { Children.StrategyListBox.ListIndex(std::int32_t{strategy} + 1); }
 

@@ -152,9 +152,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, AdviceButtonBlinkTest,
                          RowName());
 
 TEST_F(AdviceButtonBehaviourTest, SelectingAStrategyShowsTheListAndReportsThePick) {
-  button_->Events.StrategyListBoxVisibilityChanged.Connect([this](bool) {
-    recorder_.Note(Children().StrategyListBox.Extender().Visible() ? "list shown" : "list hidden");
-  });
+  button_->Events.StrategyListBoxVisibilityChanged.Connect(
+      [this](bool) { recorder_.Note(Children().StrategyListBox.Extender().Visible() ? "list shown" : "list hidden"); });
   button_->Events.AdviceStrategySelected.Connect([this](const Variant&) {
     recorder_.Note(Children().StrategyListBox.Extender().Visible() ? "list shown" : "list hidden");
   });

@@ -49,8 +49,8 @@ struct WaitRow {
 
 TYPED_TEST(BlinkerTest, WaitsInWholeMilliseconds) {
   const WaitRow rows[] = {
-      {0, 0},           {0.2F, 200},      {1.6F, 1600},     {0.0004F, 0},     {0.0005F, 0},
-      {0.0006F, 1},     {0.0015F, 2},     {0.0025F, 2},     {-0.0F, 0},       {60, 60'000},
+      {0, 0},       {0.2F, 200},  {1.6F, 1600}, {0.0004F, 0}, {0.0005F, 0},
+      {0.0006F, 1}, {0.0015F, 2}, {0.0025F, 2}, {-0.0F, 0},   {60, 60'000},
   };
   for (const WaitRow& row : rows) {
     const std::int64_t before = this->site_->Now();
@@ -146,13 +146,13 @@ TYPED_TEST(BlinkerTest, ASecondFlashRunsInsideTheFirst) {
   second->OnUse = noteAs("second");
   this->site_->After(500, [&] { this->control_->FlashObject(second); });
   this->control_->FlashObject(this->element_);
-  EXPECT_EQ(log, (Texts{"0 first Visible=False",      "200 first Visible=True",    "400 first Visible=False",
-                        "500 second Visible=False",   "700 second Visible=True",   "900 second Visible=False",
-                        "1100 second Visible=True",   "1300 second Visible=False", "1500 second Visible=True",
-                        "1700 second Visible=False",  "1900 second Visible=True",  "2100 second DEFAULT=True",
+  EXPECT_EQ(log, (Texts{"0 first Visible=False", "200 first Visible=True", "400 first Visible=False",
+                        "500 second Visible=False", "700 second Visible=True", "900 second Visible=False",
+                        "1100 second Visible=True", "1300 second Visible=False", "1500 second Visible=True",
+                        "1700 second Visible=False", "1900 second Visible=True", "2100 second DEFAULT=True",
                         // The outer wait ends at once: the inner one's tick has set the flag of both.
-                        "2100 first Visible=True",    "2300 first Visible=False",  "2500 first Visible=True",
-                        "2700 first Visible=False",   "2900 first Visible=True",   "3100 first DEFAULT=True"}));
+                        "2100 first Visible=True", "2300 first Visible=False", "2500 first Visible=True",
+                        "2700 first Visible=False", "2900 first Visible=True", "3100 first DEFAULT=True"}));
 }
 
 TYPED_TEST(BlinkerTest, AWaitInsideAWaitEndsBoth) {

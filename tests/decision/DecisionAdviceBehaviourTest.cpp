@@ -137,9 +137,8 @@ TEST_F(DecisionAdviceBehaviourTest, AdviceConsiderationsBlinkInOneModeOnly) {
   } rows[] = {{0, false}, {4, false}, {2, true}};
   for (const auto& row : rows) {
     box_->Extender().SetFocus();
-    robot_->OnNextMenu([&](Menu& menu) {
-      robot_->Choose(menu, Children().AdviceButton.Children.mnuButtonBlink[row.mode]);
-    });
+    robot_->OnNextMenu(
+        [&](Menu& menu) { robot_->Choose(menu, Children().AdviceButton.Children.mnuButtonBlink[row.mode]); });
     robot_->MouseDown(TheAdviceButton(), RightButton, 0);
     box_->Extender().SetFocus();
     Children().HitButton.DEFAULT(true);
@@ -179,9 +178,8 @@ TEST_F(DecisionAdviceBehaviourTest, APickedStrategyGoesOnUnchangedAndTheButtonBe
 TEST_F(DecisionAdviceBehaviourTest, TheSameVariantIsPassedOn) {
   const Variant* reported = nullptr;
   const Variant* passedOn = nullptr;
-  box_->Children.AdviceButton.Events.AdviceStrategySelected.Connect([&](const Variant& strategy) {
-    reported = &strategy;
-  });
+  box_->Children.AdviceButton.Events.AdviceStrategySelected.Connect(
+      [&](const Variant& strategy) { reported = &strategy; });
   box_->Events.EvaluationStrategySelected.Connect([&](const Variant& strategy) { passedOn = &strategy; });
   OpenTheStrategyList();
   robot_->PickRow(TheList(), 1);

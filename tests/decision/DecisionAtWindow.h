@@ -34,9 +34,7 @@ class DecisionAtWindow : public testing::Test {
   Decision::ChildWidgets& Children() const { return box_->Children; }
   PushButton& ButtonOf(const DecisionPlay& play) const { return box_->Children.*play.button; }
   PushButton& TheAdviceButton() const { return box_->Children.AdviceButton.Children.cmdAdviceButton; }
-  ListBox& TheList() const {
-    return box_->Children.AdviceButton.Children.StrategyListBox.Children.StrategyListBox;
-  }
+  ListBox& TheList() const { return box_->Children.AdviceButton.Children.StrategyListBox.Children.StrategyListBox; }
 
   static std::string EventOf(const DecisionPlay& play) {
     constexpr const char* Names[] = {"PlayerHits#9", "PlayerStands#11", "PlayerSplits#10", "PlayerDoublesDown#8",
@@ -53,9 +51,8 @@ class DecisionAtWindow : public testing::Test {
     WithMenu(button, [this, &entry](Menu& menu) { robot_->Choose(menu, entry); });
   }
   void OpenTheStrategyList() {
-    robot_->OnNextMenu([this](Menu& menu) {
-      robot_->Choose(menu, Children().AdviceButton.Children.mnuSelectStrategy);
-    });
+    robot_->OnNextMenu(
+        [this](Menu& menu) { robot_->Choose(menu, Children().AdviceButton.Children.mnuSelectStrategy); });
     robot_->MouseDown(TheAdviceButton(), RightButton, 0);
   }
   void Destroy(bool withWindow) {

@@ -98,8 +98,7 @@ const RaiserRow Raisers[] = {
     {"Show", "Show#21", [](Test& test) { test.box_->Events.Show.Raise(); }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, DecisionRaiserTest,
-                         testing::Combine(testing::ValuesIn(Raisers), testing::Bool()),
+INSTANTIATE_TEST_SUITE_P(Rows, DecisionRaiserTest, testing::Combine(testing::ValuesIn(Raisers), testing::Bool()),
                          [](const testing::TestParamInfo<std::tuple<RaiserRow, bool>>& row) {
                            return std::string(std::get<0>(row.param).name) +
                                   (std::get<1>(row.param) ? "AndWindow" : "");
@@ -135,9 +134,7 @@ TEST_P(DecisionMomentTest, InTheMiddleOfAWaitOfTheHosts) {
 }
 
 TEST_P(DecisionMomentTest, WhileTheAdviceButtonBlinks) {
-  robot_->OnNextMenu([this](Menu& menu) {
-    robot_->Choose(menu, Children().AdviceButton.Children.mnuButtonBlink[2]);
-  });
+  robot_->OnNextMenu([this](Menu& menu) { robot_->Choose(menu, Children().AdviceButton.Children.mnuButtonBlink[2]); });
   robot_->MouseDown(TheAdviceButton(), RightButton, 0);
   robot_->After(300, [this] { DestroyIt(); });
   box_->HandleAdviceConsiderations();

@@ -118,11 +118,11 @@ class DecisionStopTest : public DecisionFailureTest, public testing::WithParamIn
  protected:
   void ExpectStop(const ObjectRef& block, int code) {
     const Texts before = {"is &Mid", "", "", "", "", "", "", "", "  Make Your Selection"};
-    const Texts after = {"Is &7, 8 or 9", "split",     "surrender", "double",
-                         "advice",        "options",   "clipboard", "Stand",
-                         "Ann - You have  7 OR  17  - Make your Selection"};
-    for (PushButton* button : {&box_->Children.SplitButton, &box_->Children.SurrenderButton,
-                               &box_->Children.DoubleButton}) {
+    const Texts after = {"Is &7, 8 or 9", "split",  "surrender",
+                         "double",        "advice", "options",
+                         "clipboard",     "Stand",  "Ann - You have  7 OR  17  - Make your Selection"};
+    for (PushButton* button :
+         {&box_->Children.SplitButton, &box_->Children.SurrenderButton, &box_->Children.DoubleButton}) {
       button->Visible(false);
     }
     box_->Children.cmdOptions.Enabled(false);
@@ -153,17 +153,15 @@ TEST_P(DecisionStopTest, ASetupStopsAtThePropertyThatFails) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DecisionStopTest,
-    testing::Values(StopRow{"MidCards", BlockField::MidCardsAre, 0},
-                    StopRow{"Restrictions", BlockField::ManualPlayerRestrictions, 1},
-                    StopRow{"Split", BlockField::SplitIsValid, 1},
-                    StopRow{"Surrender", BlockField::SurrenderIsValid, 2},
-                    StopRow{"HardDouble", BlockField::HardDoubleIsValid, 3},
-                    StopRow{"SoftDouble", BlockField::SoftDoubleIsValid, 3},
-                    StopRow{"Log", BlockField::PlayingLogEnabled, 6}, StopRow{"Advice", BlockField::StrategyAdvice, 7},
-                    StopRow{"HardTotal", BlockField::HardTotal, 8}, StopRow{"SoftTotal", BlockField::SoftTotal, 8},
-                    StopRow{"PlayerName", BlockField::PlayerName, 8},
-                    // Neither is read by a setup.
-                    StopRow{"Prompt", BlockField::PromptPlayButtons, 9}, StopRow{"Hit", BlockField::HitIsValid, 9}),
+    testing::Values(
+        StopRow{"MidCards", BlockField::MidCardsAre, 0},
+        StopRow{"Restrictions", BlockField::ManualPlayerRestrictions, 1}, StopRow{"Split", BlockField::SplitIsValid, 1},
+        StopRow{"Surrender", BlockField::SurrenderIsValid, 2}, StopRow{"HardDouble", BlockField::HardDoubleIsValid, 3},
+        StopRow{"SoftDouble", BlockField::SoftDoubleIsValid, 3}, StopRow{"Log", BlockField::PlayingLogEnabled, 6},
+        StopRow{"Advice", BlockField::StrategyAdvice, 7}, StopRow{"HardTotal", BlockField::HardTotal, 8},
+        StopRow{"SoftTotal", BlockField::SoftTotal, 8}, StopRow{"PlayerName", BlockField::PlayerName, 8},
+        // Neither is read by a setup.
+        StopRow{"Prompt", BlockField::PromptPlayButtons, 9}, StopRow{"Hit", BlockField::HitIsValid, 9}),
     RowName());
 
 struct SetupValueRow {
@@ -185,7 +183,8 @@ TEST_P(DecisionSetupValueTest, ASetupFailsFor) {
 INSTANTIATE_TEST_SUITE_P(Rows, DecisionSetupValueTest,
                          testing::Values(SetupValueRow{"AdviceTooLarge", BlockField::StrategyAdvice, 32768, 6},
                                          SetupValueRow{"AdviceText", BlockField::StrategyAdvice, "hit", 13},
-                                         SetupValueRow{"RestrictionsWord", BlockField::ManualPlayerRestrictions, "x", 13},
+                                         SetupValueRow{"RestrictionsWord", BlockField::ManualPlayerRestrictions, "x",
+                                                       13},
                                          SetupValueRow{"LogWord", BlockField::PlayingLogEnabled, "x", 13},
                                          SetupValueRow{"SplitNull", BlockField::SplitIsValid, Variant::Null(), 94},
                                          SetupValueRow{"HardTotalText", BlockField::HardTotal, "x", 13},
@@ -276,8 +275,7 @@ TEST_F(DecisionFailureTest, ABlockMaySetTheBoxUpForAnotherHandWheneverItIsRead) 
     EXPECT_EQ(box_->Children.lblUserControlCaption.Caption(), "Ann - You have  7 OR  17  - Make your Selection");
     EXPECT_EQ(box_->DecodedDCB().PlayerName(), other.PlayerName());
     // The outer setup's step came last only if it was still to come.
-    EXPECT_EQ(box_->Children.mnuHolecardIsNeutral.Caption(),
-              at == 14 ? "Is &7, 8 or 9" : "Is &" + other.MidCardsAre())
+    EXPECT_EQ(box_->Children.mnuHolecardIsNeutral.Caption(), at == 14 ? "Is &7, 8 or 9" : "Is &" + other.MidCardsAre())
         << "read " << at;
   }
 }

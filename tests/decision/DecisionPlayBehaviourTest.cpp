@@ -103,8 +103,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, DecisionBoxKeyTest,
                          testing::Values(BoxKeyRow{"Plain", 0, true}, BoxKeyRow{"Shift", ShiftKey, true},
                                          BoxKeyRow{"Ctrl", CtrlKey, false},
                                          BoxKeyRow{"CtrlShift", CtrlKey + ShiftKey, false},
-                                         BoxKeyRow{"Alt", AltKey, true},
-                                         BoxKeyRow{"CtrlAlt", CtrlKey + AltKey, false}),
+                                         BoxKeyRow{"Alt", AltKey, true}, BoxKeyRow{"CtrlAlt", CtrlKey + AltKey, false}),
                          RowName());
 
 TEST_F(DecisionPlayBehaviourTest, AKeyClearsThePromptToo) {
@@ -122,9 +121,9 @@ TEST_F(DecisionPlayBehaviourTest, OtherKeysDoNothing) {
       if (std::string("HSPDG").find(letter) != std::string::npos) continue;
       EXPECT_EQ(Press(letter), Texts{}) << letter;
     }
-    for (const std::int32_t code : {static_cast<std::int32_t>('0'), static_cast<std::int32_t>('9'),
-                                    static_cast<std::int32_t>(ReturnKey), static_cast<std::int32_t>(EscapeKey),
-                                    static_cast<std::int32_t>(FunctionKey1), FunctionKey1 + 3}) {
+    for (const std::int32_t code :
+         {static_cast<std::int32_t>('0'), static_cast<std::int32_t>('9'), static_cast<std::int32_t>(ReturnKey),
+          static_cast<std::int32_t>(EscapeKey), static_cast<std::int32_t>(FunctionKey1), FunctionKey1 + 3}) {
       EXPECT_EQ(Press(code), Texts{}) << code;
     }
   }

@@ -215,8 +215,7 @@ TEST_F(DecisionHoverTest, TheUserSlidesFromAnOpenMenuToTheOptions) {
       robot_->MouseMove(Children().cmdOptions, 0);
     });
     EXPECT_EQ(recorder_.Take(), (Texts{"&Options, first closed", "BurnACardRequested#2"}));
-    EXPECT_FALSE(Children().mnuHoleCard.IsOpen() || Children().mnuTensRatio.IsOpen() ||
-                 Children().mnuOptions.IsOpen());
+    EXPECT_FALSE(Children().mnuHoleCard.IsOpen() || Children().mnuTensRatio.IsOpen() || Children().mnuOptions.IsOpen());
   }
   CountMenus(1);
   robot_->MouseMove(Children().cmdOptions, 0);

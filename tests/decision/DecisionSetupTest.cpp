@@ -104,8 +104,8 @@ TEST_P(DecisionPlaysTest, ShowsWhatTheBlockAllows) {
   // From all hidden and from all shown.
   for (const bool before : {false, true}) {
     const auto show = [&] {
-      for (PushButton* button : {&box_->Children.SplitButton, &box_->Children.DoubleButton,
-                                 &box_->Children.SurrenderButton}) {
+      for (PushButton* button :
+           {&box_->Children.SplitButton, &box_->Children.DoubleButton, &box_->Children.SurrenderButton}) {
         button->Visible(before);
       }
     };
@@ -123,17 +123,16 @@ TEST_P(DecisionPlaysTest, ShowsWhatTheBlockAllows) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DecisionPlaysTest,
-    testing::Values(PlaysRow{"Fresh", false, false, false, false, false, false,
-                             {"Hit", "Stand", "Split", "Double", "Surrender"}},
-                    PlaysRow{"NothingLegal", true, false, false, false, false, false, {"Hit", "Stand"}},
-                    PlaysRow{"HitLegal", true, true, false, false, false, false, {"Hit", "Stand"}},
-                    PlaysRow{"Split", true, false, true, false, false, false, {"Hit", "Stand", "Split"}},
-                    PlaysRow{"HardDouble", true, false, false, true, false, false, {"Hit", "Stand", "Double"}},
-                    PlaysRow{"SoftDouble", true, false, false, false, true, false, {"Hit", "Stand", "Double"}},
-                    PlaysRow{"BothDoubles", true, false, false, true, true, false, {"Hit", "Stand", "Double"}},
-                    PlaysRow{"Surrender", true, false, false, false, false, true, {"Hit", "Stand", "Surrender"}},
-                    PlaysRow{"AllLegal", true, true, true, true, true, true,
-                             {"Hit", "Stand", "Split", "Double", "Surrender"}}),
+    testing::Values(
+        PlaysRow{"Fresh", false, false, false, false, false, false, {"Hit", "Stand", "Split", "Double", "Surrender"}},
+        PlaysRow{"NothingLegal", true, false, false, false, false, false, {"Hit", "Stand"}},
+        PlaysRow{"HitLegal", true, true, false, false, false, false, {"Hit", "Stand"}},
+        PlaysRow{"Split", true, false, true, false, false, false, {"Hit", "Stand", "Split"}},
+        PlaysRow{"HardDouble", true, false, false, true, false, false, {"Hit", "Stand", "Double"}},
+        PlaysRow{"SoftDouble", true, false, false, false, true, false, {"Hit", "Stand", "Double"}},
+        PlaysRow{"BothDoubles", true, false, false, true, true, false, {"Hit", "Stand", "Double"}},
+        PlaysRow{"Surrender", true, false, false, false, false, true, {"Hit", "Stand", "Surrender"}},
+        PlaysRow{"AllLegal", true, true, true, true, true, true, {"Hit", "Stand", "Split", "Double", "Surrender"}}),
     RowName());
 
 TEST_F(DecisionSetupTest, HitAndStandAreLeftAlone) {
@@ -231,8 +230,8 @@ TEST_F(DecisionSetupTest, ReadsInOrder) {
   block->Reads.clear();
   box_->SetupTheDecisionBox(block);
   Texts expected = CopyReads;
-  for (const char* name : {"MidCardsAre", "ManualPlayerRestrictions", "PlayingLogEnabled", "StrategyAdvice", "HardTotal",
-                           "SoftTotal", "PlayerName"}) {
+  for (const char* name : {"MidCardsAre", "ManualPlayerRestrictions", "PlayingLogEnabled", "StrategyAdvice",
+                           "HardTotal", "SoftTotal", "PlayerName"}) {
     expected.emplace_back(name);
   }
   EXPECT_EQ(block->Reads, expected);

@@ -16,7 +16,8 @@
 namespace tactix::tests {
 namespace {
 
-constexpr std::int32_t Keys[] = {'H', 's', 'P', 'd', 'G', 'T', 'O', 'A', 'X', ReturnKey, ' ', FunctionKey1, DownArrowKey};
+constexpr std::int32_t Keys[] = {'H', 's', 'P',       'd', 'G',          'T',         'O',
+                                 'A', 'X', ReturnKey, ' ', FunctionKey1, DownArrowKey};
 
 KeyPress AnyKey(SequenceRandom& random) {
   return {Keys[random.Below(std::size(Keys))], static_cast<std::int16_t>(random.OneIn(2) ? random.Below(8) : 0)};
@@ -33,8 +34,7 @@ std::vector<typename RandomHost<C>::Operation> CommonOperations() {
   using Host = RandomHost<C>;
   return {
       {"press a key", 12, [](Host& host, C&, SequenceRandom& random) { host.Site().PressKey(AnyKey(random)); }},
-      {"let time pass", 4,
-       [](Host& host, C&, SequenceRandom& random) { host.Site().Advance(random.Between(0, 500)); }},
+      {"let time pass", 4, [](Host& host, C&, SequenceRandom& random) { host.Site().Advance(random.Between(0, 500)); }},
       {"interfere later", 3, [](Host& host, C&, SequenceRandom& random) { host.InterfereLater(random); }},
       {"interfere in menus", 3, [](Host& host, C&, SequenceRandom&) { host.InterfereInMenus(); }},
       {"wait", 1,
@@ -53,10 +53,8 @@ std::vector<typename RandomHost<C>::Operation> CommonOperations() {
        [](Host&, C& control, SequenceRandom& random) {
          control.Extender().Width(static_cast<float>(random.Between(0, 9000)));
        }},
-      {"show", 1,
-       [](Host&, C& control, SequenceRandom& random) { control.Extender().Visible(!random.OneIn(3)); }},
-      {"enable", 1,
-       [](Host&, C& control, SequenceRandom& random) { control.Extender().Enabled(!random.OneIn(3)); }},
+      {"show", 1, [](Host&, C& control, SequenceRandom& random) { control.Extender().Visible(!random.OneIn(3)); }},
+      {"enable", 1, [](Host&, C& control, SequenceRandom& random) { control.Extender().Enabled(!random.OneIn(3)); }},
       {"focus", 2, [](Host&, C& control, SequenceRandom&) { control.Extender().SetFocus(); }},
       {"destroy", 1, [](Host& host, C&, SequenceRandom&) { host.DestroyControl(); }},
       {"destroy the window", 1, [](Host& host, C&, SequenceRandom&) { host.DestroyWindow(); }},
@@ -117,19 +115,15 @@ std::string CheckTheAdviceButton(const AdviceButton& button) {
 using AdviceHost = RandomHost<AdviceButton>;
 
 const std::vector<AdviceHost::Operation> AdviceOperations = With<AdviceButton>({
-    {"click", 10,
-     [](AdviceHost&, AdviceButton& button, SequenceRandom&) { button.Children.cmdAdviceButton.Click(); }},
+    {"click", 10, [](AdviceHost&, AdviceButton& button, SequenceRandom&) { button.Children.cmdAdviceButton.Click(); }},
     {"press the mouse", 10,
      [](AdviceHost&, AdviceButton& button, SequenceRandom& random) {
        button.Children.cmdAdviceButton.MouseDown(AnyMouse(random));
      }},
-    {"pick", 8,
-     [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { PickAStrategy(button, random); }},
-    {"strategies", 1,
-     [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { UseStrategies(button, random); }},
+    {"pick", 8, [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { PickAStrategy(button, random); }},
+    {"strategies", 1, [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { UseStrategies(button, random); }},
     {"blink", 2, [](AdviceHost&, AdviceButton& button, SequenceRandom&) { button.BlinkIfNecessary(); }},
-    {"enabled", 2,
-     [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { button.Enabled(random.OneIn(2)); }},
+    {"enabled", 2, [](AdviceHost&, AdviceButton& button, SequenceRandom& random) { button.Enabled(random.OneIn(2)); }},
     {"caption", 1, [](AdviceHost&, AdviceButton& button, SequenceRandom&) { button.Caption("&Ask"); }},
 });
 
@@ -186,9 +180,9 @@ DecisionBlock AnyDecisionBlock(SequenceRandom& random) {
 
 Widget& AnyChild(Decision& box, SequenceRandom& random) {
   Decision::ChildWidgets& w = box.Children;
-  Widget* const widgets[] = {&w.HitButton,   &w.StandButton,  &w.SplitButton, &w.DoubleButton,      &w.SurrenderButton,
-                             &w.cmdHoleCard, &w.cmdTensRatio, &w.cmdOptions,  &w.ManualPlayButtons,
-                             &w.AdviceButton.Children.cmdAdviceButton};
+  Widget* const widgets[] = {
+      &w.HitButton,   &w.StandButton,  &w.SplitButton, &w.DoubleButton,      &w.SurrenderButton,
+      &w.cmdHoleCard, &w.cmdTensRatio, &w.cmdOptions,  &w.ManualPlayButtons, &w.AdviceButton.Children.cmdAdviceButton};
   return *widgets[random.Below(std::size(widgets))];
 }
 

@@ -19,9 +19,16 @@ void Prepare(Host& host, StrategyList& list);
 FakeCatalogue& CatalogueOf(Host& host);
 
 std::string AnyDescription(SequenceRandom& random) {
-  constexpr const char* Descriptions[] = {
-      "", "no comma", "note,one comma", "note,Basic,False True", "note,Basic,False False", "xy~o,Lk}sm,True True",
-      "note,Basic,maybe True", "note,Not Present,0 1", "note,,0 1", "note,Select a Strategy,0 1"};
+  constexpr const char* Descriptions[] = {"",
+                                          "no comma",
+                                          "note,one comma",
+                                          "note,Basic,False True",
+                                          "note,Basic,False False",
+                                          "xy~o,Lk}sm,True True",
+                                          "note,Basic,maybe True",
+                                          "note,Not Present,0 1",
+                                          "note,,0 1",
+                                          "note,Select a Strategy,0 1"};
   return Descriptions[random.Below(std::size(Descriptions))];
 }
 

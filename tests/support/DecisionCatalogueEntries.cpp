@@ -19,9 +19,8 @@ void PickAStrategy(AdviceButton& button) {
 }
 
 Raiser PlayRaiser(std::string event, PushButton Decision::ChildWidgets::*button) {
-  return {std::move(event), [button](HeadlessSite&, Control& control) {
-            (static_cast<Decision&>(control).Children.*button).Click();
-          }};
+  return {std::move(event),
+          [button](HeadlessSite&, Control& control) { (static_cast<Decision&>(control).Children.*button).Click(); }};
 }
 
 Raiser PredictionRaiser(std::string event, std::int16_t shift) {

@@ -30,9 +30,9 @@ class QtFocusTest : public testing::Test {
     Settle();
   }
 
+  Texts notes_;
   ProbeWindow window_;
   OuterProbe::ChildWidgets& children_ = window_.Children();
-  Texts notes_;
 };
 
 TEST_F(QtFocusTest, SettingItMovesTheRealFocusAtOnce) {

@@ -86,7 +86,7 @@ TEST_F(QtMenuTest, AKeyChooses) {
 }
 
 TEST_F(QtMenuTest, AClickBesideItClosesIt) {
-  Open([](QMenu& menu) { ClickAt(menu, QPoint(menu.width() + 100, menu.height() + 100)); });
+  Open([this](QMenu&) { ClickAt(window_.Window(), window_.Window().rect().bottomRight() - QPoint(3, 3)); });
   EXPECT_EQ(window_.Recorder().Take(), Texts{"MenuClosed#6"});
 }
 
@@ -95,7 +95,7 @@ TEST_F(QtMenuTest, MouseMovesOverTheControlStillReachIt) {
     const QWidget& panel = *NativeOf(children_.ButtonPanel);
     const QPoint beyond = panel.mapToGlobal(panel.rect().bottomRight() - QPoint(4, 4));
     ASSERT_FALSE(menu.geometry().contains(beyond));
-    MoveTo(menu, menu.mapFromGlobal(beyond), CtrlKey);
+    MoveTo(window_.Window(), window_.Window().mapFromGlobal(beyond), CtrlKey);
     LeaveMenu(menu);
   });
   EXPECT_EQ(window_.Recorder().Take(), (Texts{"MouseWasMoved#11(0, 2)", "MenuClosed#6"}));

@@ -56,7 +56,6 @@ class Session {
 
   /// The strategy that advises from now on; basic strategy at first. It must not be null.
   void Follow(std::shared_ptr<const Strategy> strategy);
-  [[nodiscard]] const Strategy& TheStrategy() const { return *strategy_; }
 
   /// Burns a card off the shoe, any number of times.
   Card Burn() { return shoe_.Burn(); }

@@ -10,7 +10,8 @@ namespace trainer::screens {
 /// A strategy of the catalogue, played by its table.
 class TableStrategy final : public engine::Strategy {
  public:
-  TableStrategy(std::string name, const tactix::companion::PlayingTable& table) : name_(std::move(name)), table_(table) {}
+  TableStrategy(std::string name, const tactix::companion::PlayingTable& table)
+      : name_(std::move(name)), table_(table) {}
 
   [[nodiscard]] std::string_view Name() const override { return name_; }
 

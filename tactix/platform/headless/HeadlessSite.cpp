@@ -47,8 +47,8 @@ bool HeadlessSite::RunNext(std::int64_t latest) {
   const auto timer = std::min_element(timers_.begin(), timers_.end(), sooner);
   const auto scheduled = std::min_element(scheduled_.begin(), scheduled_.end(), sooner);
   const bool timerFirst =
-      timer != timers_.end() &&
-      (scheduled == scheduled_.end() || std::pair(timer->due, timer->order) < std::pair(scheduled->due, scheduled->order));
+      timer != timers_.end() && (scheduled == scheduled_.end() ||
+                                 std::pair(timer->due, timer->order) < std::pair(scheduled->due, scheduled->order));
   if (timerFirst && timer->due <= latest) {
     now_ = std::max(now_, timer->due);
     timer->due += std::max(timer->timer->Interval(), 1);

@@ -72,8 +72,8 @@ class TACTIX_EXPORT WidgetObserver {
   virtual void Gone(Widget& widget) = 0;
 };
 
-/// A child widget as a control sees it: a plain value with notifications, which a front end draws. The upper half is the
-/// control's side; the user's side does what a user can do to it and nothing a user can't: a widget that is hidden,
+/// A child widget as a control sees it: a plain value with notifications, which a front end draws. The upper half is
+/// the control's side; the user's side does what a user can do to it and nothing a user can't: a widget that is hidden,
 /// disabled, or inside one that is, does not react. Errors of a user's action end at the site.
 class TACTIX_EXPORT Widget : public Trackable {
  public:

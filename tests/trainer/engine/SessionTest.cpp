@@ -171,5 +171,16 @@ TEST(SessionTest, BurnsACard) {
   EXPECT_EQ(session.TheShoe().RemainingCount(), left - 1);
 }
 
+TEST(SessionTest, ThereIsNoTensRatioOfNoCards) {
+  Session session(Rules{.decks = 1}, 2);
+  session.Deal();
+  while (!session.IsOver()) session.Decide(Decision::Stand);
+  while (session.TheShoe().RemainingCount() > 1) session.Burn();
+  EXPECT_NE(session.PredictTensRatio(true), std::nullopt);
+  session.Burn();
+  EXPECT_EQ(session.PredictTensRatio(true), std::nullopt);
+  EXPECT_EQ(session.Predictions().Made(), 1);
+}
+
 }  // namespace
 }  // namespace trainer::engine

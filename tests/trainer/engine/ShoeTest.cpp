@@ -170,6 +170,22 @@ TEST(ShoeTest, ARoundThatGoesOnAfterShufflingTheDiscardsKeepsItsCardsOut) {
   EXPECT_NO_THROW((void)shoe.Draw());
 }
 
+TEST(ShoeTest, ABurnedCardIsDealtButNotOnTheTable) {
+  Shoe shoe(1, 31);
+  Draw(shoe, 10);
+  shoe.BeginRound();
+  std::vector<Card> table;
+  for (int count = 0; count < 3; ++count) table.push_back(shoe.Draw());
+  Shoe same = shoe;
+  EXPECT_EQ(shoe.Burn(), same.Draw());
+  EXPECT_EQ(shoe.DealtCount(), 14U);
+  EXPECT_EQ(shoe.Draw(), same.Draw());
+  for (int count = 0; count < 200; ++count) (void)shoe.Burn();
+  const auto onTable = CountByName(shoe.Dealt());
+  for (const Card card : table) EXPECT_EQ(onTable.count(NameOf(card)), 1U) << NameOf(card);
+  EXPECT_EQ(CountByName(shoe.Dealt()).size(), shoe.DealtCount()) << "no card is there twice";
+}
+
 TEST(ShoeTest, ThrowsWhenEveryCardIsOnTheTable) {
   Shoe shoe(1, 19);
   shoe.BeginRound();

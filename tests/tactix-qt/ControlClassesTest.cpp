@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QMetaEnum>
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QUiLoader>
+#include <memory>
+#include <set>
+#include <string>
+
+#include "tactix-qt/AdviceButton.h"
+#include "tactix-qt/Decision.h"
+#include "tactix-qt/StrategyList.h"
+#include "tactix/platform/PropertyTable.h"
+#include "tests/platform/ErrorCode.h"
+#include "tests/support-qt/Gestures.h"
+#include "tests/support/RowName.h"
+
+namespace tactix::tests {
+namespace {
+
+template <class W>
+qt::ControlWidget* Make(QWidget* parent) {
+  return new W(parent);
+}
+
+template <class C>
+std::set<std::string> EventNames(qt::ControlWidget& widget) {
+  std::set<std::string> names;
+  std::apply([&names](auto&... events) { (names.emplace(events.Name()), ...); },
+             static_cast<C&>(*widget.Hosted()).Events.All());
+  return names;
+}
+
+struct ClassRow {
+  const char* name;
+  qt::ControlWidget* (*make)(QWidget*);
+  std::set<std::string> (*events)(qt::ControlWidget&);
+};
+
+class QtControlClassTest : public testing::TestWithParam<ClassRow> {
+ protected:
+  std::unique_ptr<qt::ControlWidget> widget_{GetParam().make(nullptr)};
+};
+
+TEST_P(QtControlClassTest, HasTheControlsReadableProperties) {
+  for (const PropertyTable::Row& row : widget_->Hosted()->Properties().Rows()) {
+    if (!row.get) continue;
+    const int index = widget_->metaObject()->indexOfProperty(row.name.c_str());
+    ASSERT_GE(index, 0) << row.name;
+    const QMetaProperty property = widget_->metaObject()->property(index);
+    EXPECT_TRUE(property.read(widget_.get()).isValid()) << row.name;
+    EXPECT_EQ(property.isWritable(), static_cast<bool>(row.set)) << row.name;
+  }
+}
+
+TEST_P(QtControlClassTest, PropertiesReadAndWriteTheControls) {
+  for (const PropertyTable::Row& row : widget_->Hosted()->Properties().Rows()) {
+    if (!row.get || !row.set) continue;
+    const char* const name = row.name.c_str();
+    const QVariant before = widget_->property(name);
+    if (before.typeId() == QMetaType::Bool) {
+      EXPECT_EQ(before.toBool(), row.get(*widget_->Hosted()).ToBoolean()) << row.name;
+      if (row.name == "PromptThePlayButtons") continue;  // writes something else than it reads
+      widget_->setProperty(name, !before.toBool());
+      EXPECT_EQ(row.get(*widget_->Hosted()).ToBoolean(), !before.toBool()) << row.name;
+    } else if (before.typeId() == QMetaType::QString) {
+      EXPECT_EQ(before.toString().toStdString(), row.get(*widget_->Hosted()).ToText()) << row.name;
+      if (row.name == "Qualifier") continue;  // ignores what is written
+      widget_->setProperty(name, QStringLiteral("\u00C4 text"));
+      EXPECT_EQ(row.get(*widget_->Hosted()).ToText(), "\xC3\x84 text") << row.name;
+    } else if (before.metaType().flags() & QMetaType::IsEnumeration) {
+      widget_->setProperty(name, 1);
+      EXPECT_EQ(row.get(*widget_->Hosted()).ToLong(), 1) << row.name;
+    }
+  }
+}
+
+TEST_P(QtControlClassTest, HasASignalForEveryEvent) {
+  for (const std::string& event : GetParam().events(*widget_)) {
+    bool found = false;
+    for (int i = 0; i < widget_->metaObject()->methodCount(); ++i) {
+      const QMetaMethod method = widget_->metaObject()->method(i);
+      const std::string name = method.name().toStdString();
+      if (method.methodType() == QMetaMethod::Signal && (name == event || name == event + "Raised")) found = true;
+    }
+    EXPECT_TRUE(found) << event;
+  }
+}
+
+TEST_P(QtControlClassTest, ComesOutOfAForm) {
+  struct Loader : QUiLoader {
+    QWidget* createWidget(const QString& type, QWidget* parent, const QString& name) override {
+      if (type != QLatin1String("Tested")) return QUiLoader::createWidget(type, parent, name);
+      QWidget* const widget = make(parent);
+      widget->setObjectName(name);
+      return widget;
+    }
+    qt::ControlWidget* (*make)(QWidget*) = nullptr;
+  } loader;
+  loader.make = GetParam().make;
+  QByteArray form =
+      "<ui version='4.0'><class>Form</class><widget class='QWidget' name='Form'><widget class='Tested' name='tested'>"
+      "<property name='geometry'><rect><x>10</x><y>20</y><width>200</width><height>100</height></rect></property>"
+      "</widget></widget></ui>";
+  QBuffer buffer(&form);
+  const std::unique_ptr<QWidget> window(loader.load(&buffer));
+  ASSERT_TRUE(window);
+  auto* const widget = window->findChild<qt::ControlWidget*>(QStringLiteral("tested"));
+  ASSERT_TRUE(widget);
+  window->show();
+  Settle();
+  EXPECT_EQ(widget->geometry(), QRect(10, 20, 200, 100));
+  EXPECT_EQ(widget->Hosted()->Extender().Width(), 3000);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Classes, QtControlClassTest,
+    testing::Values(ClassRow{"StrategyList", Make<qt::StrategyList>, EventNames<StrategyList>},
+                    ClassRow{"AdviceButton", Make<qt::AdviceButton>, EventNames<AdviceButton>},
+                    ClassRow{"Decision", Make<qt::Decision>, EventNames<Decision>}),
+    RowName());
+
+TEST(QtDecisionClassTest, EnumerationsShowTheirRowsByName) {
+  const qt::Decision widget;
+  const QMetaObject& meta = *widget.metaObject();
+  const QMetaProperty property = meta.property(meta.indexOfProperty("DecisionBoxType"));
+  ASSERT_TRUE(property.isEnumType());
+  EXPECT_STREQ(property.enumerator().valueToKey(1), "forUseWithBlackjackTable");
+}
+
+TEST(QtDecisionClassTest, SignalsWhatTheControlRaises) {
+  qt::Decision widget;
+  int row = 0;
+  const auto raise = [&](auto& event, auto signal) {
+    QSignalSpy spy(&widget, signal);
+    event.Raise();
+    EXPECT_EQ(spy.count(), 1) << event.Name();
+    ++row;
+  };
+  auto& events = widget.control().Events;
+  raise(events.PlayerHits, &qt::Decision::PlayerHits);
+  raise(events.PlayerStands, &qt::Decision::PlayerStands);
+  raise(events.BurnACardRequested, &qt::Decision::BurnACardRequested);
+  raise(events.Show, &qt::Decision::ShowRaised);
+  EXPECT_EQ(row, 4);
+}
+
+TEST(QtStrategyListClassTest, SignalsTheNumberByValueAndFailsAsTheControlDoes) {
+  qt::StrategyList widget;
+  QSignalSpy spy(&widget, &qt::StrategyList::StrategySelectionChanged);
+  widget.AddItem(QStringLiteral("seat"));
+  widget.AddItem(QStringLiteral("first"));
+  widget.ListIndex(0);
+  ASSERT_EQ(spy.count(), 1);
+  EXPECT_EQ(spy[0][0].toInt(), 0);
+  EXPECT_EQ(ErrorCodeOf([&] { return widget.ListIndex(7), 0; }), Error::InvalidPropertyValue);
+  EXPECT_EQ(ErrorCodeOf([&] { return widget.ListIndex(70000), 0; }), Error::Overflow);
+}
+
+}  // namespace
+}  // namespace tactix::tests

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "tactix/companion/Companion.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tests/support-qt/Gestures.h"
+#include "tests/trainer/screens/Sessions.h"
+#include "trainer/screens/Messages.h"
+#include "trainer/screens/TableView.h"
+#include "trainer/screens/TrainerWindow.h"
+
+namespace trainer::screens {
+
+using Play = engine::Decision;
+using Verdict = TableModel::Verdict;
+
+struct PlayInput {
+  Play play;
+  char key;
+  const char* button;
+};
+inline constexpr PlayInput PlayInputs[] = {
+    {Play::Hit, 'H', "HitButton"},       {Play::Stand, 'S', "StandButton"},         {Play::Split, 'P', "SplitButton"},
+    {Play::Double, 'D', "DoubleButton"}, {Play::Surrender, 'G', "SurrenderButton"},
+};
+
+/// A trainer window and somebody who plays, with key and mouse events.
+class TrainerAtWork : public testing::Test {
+ protected:
+  TrainerAtWork()
+      : catalogue_(std::make_shared<tactix::companion::IniStrategyCatalogue>(
+            tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName)) {
+    tactix::StrategyListData::UseCatalogue(catalogue_);
+  }
+  ~TrainerAtWork() override { tactix::StrategyListData::UseCatalogue(nullptr); }
+
+  void Open(std::uint64_t seed, const engine::Rules& rules = {}) {
+    window_ = std::make_unique<TrainerWindow>(engine::Session(rules, seed), catalogue_);
+    QObject::connect(window_.get(), &TrainerWindow::Judged,
+                     [this](const DecisionRecord& record) { records_.push_back(record); });
+    window_->show();
+    window_->Deal();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  }
+  /// At a round as wanted.
+  void OpenAt(bool (*isWanted)(const engine::Session&)) {
+    Open(SeedWhere([isWanted](engine::Session& session) { return isWanted(session); }));
+  }
+
+  template <typename Native>
+  Native& Find(const char* name) {
+    auto* const native = window_->findChild<Native*>(QLatin1String(name));
+    if (!native) throw std::logic_error(std::string("the window has no ") + name);
+    return *native;
+  }
+  void Click(const char* name, std::int16_t button = tactix::LeftButton, std::int16_t shift = 0) {
+    const auto place = tactix::tests::ReachablePlace(Find<QWidget>(name));
+    ASSERT_TRUE(place) << name;
+    tactix::tests::ClickAt(*window_, *place, button, shift);
+  }
+  void Press(char key) { tactix::tests::PressKey(*window_, key); }
+  /// Clicks a button that opens a menu, and picks an entry there by its text.
+  void ChooseFrom(const char* name, const QString& entry, std::int16_t button = tactix::LeftButton) {
+    QTimer::singleShot(50, window_.get(), [entry] {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      ASSERT_TRUE(menu);
+      for (QAction* action : menu->actions()) {
+        if (action->text() == entry)
+          return QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+      }
+      menu->hide();
+      ADD_FAILURE() << "no entry " << entry.toStdString();
+    });
+    Click(name, button);
+  }
+  int RowOf(const QString& text) { return Find<QComboBox>("StrategyListBox").findText(text); }
+
+  const engine::Session& Session() const { return window_->CurrentSession(); }
+  const TableModel& Table() const { return window_->Table().Model(); }
+  std::string Message() const { return Table().message.toStdString(); }
+  std::string Prompt() { return Find<QLabel>("lblUserControlCaption").text().toStdString(); }
+  void StandToTheEnd() {
+    while (!Session().IsOver()) Press('S');
+  }
+
+  std::shared_ptr<tactix::companion::IniStrategyCatalogue> catalogue_;
+  std::unique_ptr<TrainerWindow> window_;
+  std::vector<DecisionRecord> records_;
+};
+
+}  // namespace trainer::screens
