@@ -34,16 +34,15 @@ constexpr int Code(int code) { return 100'000 + code; }
 class DecisionConversionTest : public DecisionFixture, public testing::WithParamInterface<ConversionRow> {};
 
 TEST_P(DecisionConversionTest, Converts) {
-  const auto& [name, value, toTwips, toPixels] = GetParam();
   const auto outcome = [&](std::int16_t (Decision::*convert)(const Variant&) const) {
     int result = 0;
-    const int code = ErrorCodeOf([&, v = value] { result = (box_.get()->*convert)(v); });
+    const int code = ErrorCodeOf([&] { result = (box_.get()->*convert)(GetParam().value); });
     return code == 0 ? result : Code(code);
   };
-  EXPECT_EQ(outcome(&Decision::ConvertFromPixelsToTwipsX), toTwips);
-  EXPECT_EQ(outcome(&Decision::ConvertFromPixelsToTwipsY), toTwips);
-  EXPECT_EQ(outcome(&Decision::ConvertFromTwipsToPixelsX), toPixels);
-  EXPECT_EQ(outcome(&Decision::ConvertFromTwipsToPixelsY), toPixels);
+  EXPECT_EQ(outcome(&Decision::ConvertFromPixelsToTwipsX), GetParam().toTwips);
+  EXPECT_EQ(outcome(&Decision::ConvertFromPixelsToTwipsY), GetParam().toTwips);
+  EXPECT_EQ(outcome(&Decision::ConvertFromTwipsToPixelsX), GetParam().toPixels);
+  EXPECT_EQ(outcome(&Decision::ConvertFromTwipsToPixelsY), GetParam().toPixels);
 }
 
 INSTANTIATE_TEST_SUITE_P(
