@@ -65,6 +65,7 @@ void ControlWidget::Host(Control& control) {
   root_ = new RootPeer(extender, *this);
   root_->setGeometry(rect());
   MakePeers(extender, *site_, *root_);
+  OrderTabs(extender, *root_);
   setFocusProxy(&FocusEntry(*root_));
   root_->setVisible(true);
   if (!extender.Visible()) setVisible(false);

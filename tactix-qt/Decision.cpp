@@ -42,7 +42,7 @@ Decision::Decision(QWidget* parent) : ControlWidget(parent) {
   decision_ = control.get();
   Own(std::move(control));
   for (const SignalRow& row : SignalRows) {
-    (decision_->Events.*row.event).Connect([this, signal = row.signal] { Q_EMIT (this->*signal)(); });
+    (decision_->Events.*row.event).Connect([this, signal = row.signal] { Q_EMIT(this->*signal)(); });
   }
   decision_->Events.EvaluationStrategySelected.Connect(
       [this](const Variant& strategy) { Q_EMIT EvaluationStrategySelected(strategy.ToLong()); });

@@ -79,8 +79,7 @@ float Single(const QString& text) { return Variant(Double(text)).ToSingle(); }
 Font FontOf(const QString& text) {
   const QStringList parts = text.split(QLatin1Char(';'));
   if (parts.size() < FontParts) throw Error(Error::TypeMismatch);
-  return {FromQt(parts.sliced(FontParts - 1).join(QLatin1Char(';'))), Single(parts[0]), Flag(parts[1]),
-          Flag(parts[2])};
+  return {FromQt(parts.sliced(FontParts - 1).join(QLatin1Char(';'))), Single(parts[0]), Flag(parts[1]), Flag(parts[2])};
 }
 
 Variant ValueOf(VariantType type, const QString& text) {
@@ -117,7 +116,9 @@ Variant ValueOf(VariantType type, const QString& text) {
 
 QSettingsBag::QSettingsBag(QSettings& settings, const QString& group) : settings_(settings), group_(group) {}
 
-QString QSettingsBag::Path(const QString& key) const { return group_.isEmpty() ? key : group_ + QLatin1Char('/') + key; }
+QString QSettingsBag::Path(const QString& key) const {
+  return group_.isEmpty() ? key : group_ + QLatin1Char('/') + key;
+}
 
 QString QSettingsBag::KeyOf(std::string_view name) {
   if (!group_.isEmpty()) settings_.beginGroup(group_);

@@ -112,7 +112,8 @@ void QtSite::FocusArrived(Widget& widget) {
   arrived_ = Weak<Widget>(widget);
   // Later: a control may wait, or end, when it hears of its focus, and Qt is still busy with moving it.
   if (!std::exchange(arrivalIsPosted_, true)) {
-    QMetaObject::invokeMethod(&widget_, [this] { ReportArrival(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &widget_, [this] { ReportArrival(); }, Qt::QueuedConnection);
   }
 }
 

@@ -106,7 +106,9 @@ int ListBoxPeer::TextFlags() const { return Qt::AlignLeft | Qt::AlignVCenter | Q
 QRect ListBoxPeer::TextRoom() const {
   QStyleOptionComboBox option;
   initStyleOption(&option);
-  return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).adjusted(1, 0, -1, 0);
+  return style()
+      ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+      .adjusted(1, 0, -1, 0);
 }
 
 QRect ListBoxPeer::TextRect() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
 #include <utility>
 
@@ -81,6 +82,8 @@ class NativePeer : public NativeBase, public Peer {
 
   bool event(QEvent* event) override {
     if (Before(*event)) return true;
+    // Nothing of the peer is left after that one.
+    if (event->type() == QEvent::DeferredDelete) return NativeBase::event(event);
     const bool handled = NativeBase::event(event);
     After(*event);
     return handled;

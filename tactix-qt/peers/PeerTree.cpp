@@ -1,6 +1,9 @@
 #include "tactix-qt/peers/PeerTree.h"
 
 #include <QWidget>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "tactix-qt/peers/ContainerPeer.h"
 #include "tactix-qt/peers/FramePeer.h"
@@ -33,12 +36,31 @@ QWidget* MakePeer(Widget& widget, QtSite& site, QWidget& parent) {
   return nullptr;
 }
 
+void ListInReadingOrder(const Widget& widget, std::vector<QWidget*>& natives) {
+  std::vector<Widget*> children(widget.Children().begin(), widget.Children().end());
+  std::stable_sort(children.begin(), children.end(), [](const Widget* a, const Widget* b) {
+    return std::pair(a->Top(), a->Left()) < std::pair(b->Top(), b->Left());
+  });
+  for (const Widget* child : children) {
+    const Peer* const peer = Peer::Of(*child);
+    if (peer && (peer->Native().focusPolicy() & Qt::TabFocus)) natives.push_back(&peer->Native());
+    ListInReadingOrder(*child, natives);
+  }
+}
+
 }  // namespace
 
 void MakePeers(Widget& widget, QtSite& site, QWidget& native) {
   for (Widget* child : widget.Children()) {
     if (QWidget* peer = MakePeer(*child, site, native)) MakePeers(*child, site, *peer);
   }
+}
+
+void OrderTabs(const Widget& widget, QWidget& native) {
+  std::vector<QWidget*> natives;
+  if (native.focusPolicy() & Qt::TabFocus) natives.push_back(&native);
+  ListInReadingOrder(widget, natives);
+  for (std::size_t i = 1; i < natives.size(); ++i) QWidget::setTabOrder(natives[i - 1], natives[i]);
 }
 
 void ReleasePeers(QWidget& native) {

@@ -15,6 +15,10 @@ class QtSite;
 /// Makes native widgets for all that lies inside a child widget, bottom of the z-order first.
 TACTIX_QT_EXPORT void MakePeers(Widget& widget, QtSite& site, QWidget& native);
 
+/// Tab goes from the native widget on through all that lies inside its child widget, as one reads: line by line. Made
+/// as they are, the bottom of the z-order would come first.
+TACTIX_QT_EXPORT void OrderTabs(const Widget& widget, QWidget& native);
+
 /// Cuts all ties between the native widgets under `native`, and itself, and their child widgets.
 TACTIX_QT_EXPORT void ReleasePeers(QWidget& native);
 

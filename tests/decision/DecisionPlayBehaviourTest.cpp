@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "tactix/decision/Decision.h"
@@ -208,25 +209,50 @@ TEST_F(DecisionPlayBehaviourTest, ThePlayButtonsTakeTheSpaceBarAndTheDefaultButt
 
 // Access keys.
 
-TEST_F(DecisionPlayBehaviourTest, AccessKeysWinOverTheLetterMaps) {
-  Widget* const focusable[] = {&box_->Extender(), &Children().ManualPlayButtons, &Children().StandButton};
-  const struct {
-    char letter;
-    Menu* menu;
-  } rows[] = {{'H', &Children().mnuHoleCard}, {'T', &Children().mnuTensRatio}, {'O', &Children().mnuOptions}};
-  for (Widget* focused : focusable) {
-    for (const auto& row : rows) {
-      focused->SetFocus();
-      Menu* opened = nullptr;
-      robot_->OnNextMenu([&](Menu& menu) { opened = &menu; });
-      EXPECT_EQ(Press(row.letter, AltKey), Texts{});
-      EXPECT_EQ(opened, row.menu) << row.letter;
-    }
-    focused->SetFocus();
-    box_->GiveAdvice(0);
-    EXPECT_EQ(Press('A', AltKey), Texts{"AdviceRequested#1"});
-  }
+struct AccessKeyRow {
+  const char* name;
+  char letter;
+  Menu Decision::ChildWidgets::*menu;  // null: asks for advice
+};
+
+/// What has the focus: all of these have a letter map.
+struct FocusRow {
+  const char* name;
+  Widget& (*widget)(Decision& box);
+};
+
+using AccessKeyCase = std::tuple<AccessKeyRow, FocusRow>;
+
+class DecisionAccessKeyTest : public DecisionPlayBehaviourTest, public testing::WithParamInterface<AccessKeyCase> {};
+
+TEST_P(DecisionAccessKeyTest, WinsOverTheLetterMaps) {
+  const AccessKeyRow& key = std::get<0>(GetParam());
+  std::get<1>(GetParam()).widget(*box_).SetFocus();
+  box_->GiveAdvice(0);
+  Menu* opened = nullptr;
+  robot_->OnNextMenu([&](Menu& menu) { opened = &menu; });
+  EXPECT_EQ(Press(key.letter, AltKey), key.menu ? Texts{} : Texts{"AdviceRequested#1"});
+  EXPECT_EQ(opened, key.menu ? &(Children().*key.menu) : nullptr);
 }
+
+const AccessKeyRow AccessKeys[] = {
+    {"HoleCard", 'H', &Decision::ChildWidgets::mnuHoleCard},
+    {"TensRatio", 'T', &Decision::ChildWidgets::mnuTensRatio},
+    {"Options", 'O', &Decision::ChildWidgets::mnuOptions},
+    {"Advice", 'A', nullptr},
+};
+
+const FocusRow Focuses[] = {
+    {"AtTheBox", [](Decision& box) -> Widget& { return box.Extender(); }},
+    {"AtThePanel", [](Decision& box) -> Widget& { return box.Children.ManualPlayButtons; }},
+    {"AtAButton", [](Decision& box) -> Widget& { return box.Children.StandButton; }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Rows, DecisionAccessKeyTest,
+                         testing::Combine(testing::ValuesIn(AccessKeys), testing::ValuesIn(Focuses)),
+                         [](const testing::TestParamInfo<AccessKeyCase>& row) {
+                           return std::string(std::get<0>(row.param).name) + std::get<1>(row.param).name;
+                         });
 
 TEST_F(DecisionPlayBehaviourTest, HiddenAndDisabledElementsHaveNoAccessKey) {
   box_->Extender().SetFocus();

@@ -88,6 +88,7 @@ class QtRobot final : public Robot, private QObject {
   }
 
   void PressKey(std::int32_t code, std::int16_t shift) override {
+    Activate();
     if (window_ && window_->isVisible()) tests::PressKey(*window_, code, shift);
     Settle();
   }
@@ -100,6 +101,7 @@ class QtRobot final : public Robot, private QObject {
       return Settle();
     }
     const Weak<ListBox> target(list);
+    Activate();
     box->setFocus(Qt::TabFocusReason);
     Settle();
     if (!target) return;
@@ -181,6 +183,13 @@ class QtRobot final : public Robot, private QObject {
     desk->setGeometry(0, 0, 1, 1);
     desk->setFocusPolicy(Qt::StrongFocus);
     desk->setFocus();
+  }
+
+  /// The offscreen platform leaves no window active behind a menu that closes; a real one gives it back.
+  void Activate() {
+    if (!window_ || window_->isActiveWindow() || QApplication::activePopupWidget()) return;
+    window_->activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(window_));
   }
 
   std::optional<QPoint> PlaceOf(const Widget& widget) const {

@@ -115,12 +115,11 @@ TEST_P(QtControlClassTest, ComesOutOfAForm) {
   EXPECT_EQ(widget->Hosted()->Extender().Width(), 3000);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Classes, QtControlClassTest,
-    testing::Values(ClassRow{"StrategyList", Make<qt::StrategyList>, EventNames<StrategyList>},
-                    ClassRow{"AdviceButton", Make<qt::AdviceButton>, EventNames<AdviceButton>},
-                    ClassRow{"Decision", Make<qt::Decision>, EventNames<Decision>}),
-    RowName());
+INSTANTIATE_TEST_SUITE_P(Classes, QtControlClassTest,
+                         testing::Values(ClassRow{"StrategyList", Make<qt::StrategyList>, EventNames<StrategyList>},
+                                         ClassRow{"AdviceButton", Make<qt::AdviceButton>, EventNames<AdviceButton>},
+                                         ClassRow{"Decision", Make<qt::Decision>, EventNames<Decision>}),
+                         RowName());
 
 TEST(QtDecisionClassTest, EnumerationsShowTheirRowsByName) {
   const qt::Decision widget;

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "tests/support-qt/QtWarnings.h"
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
@@ -25,7 +25,7 @@ class QtControlWidgetTest : public testing::Test {
   Texts TakeNotes() { return std::exchange(notes_, {}); }
 
   Texts notes_;
-  ProbeWindow window_;
+  NativeProbeWindow window_;
   ProbeWidget& widget_ = window_.Itself();
   OuterProbe& probe_ = window_.Probe();
 };

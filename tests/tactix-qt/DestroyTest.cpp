@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "tests/support/RowName.h"
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
@@ -18,18 +18,18 @@ using Action = std::function<void()>;
 /// What a user does, and where the host hears of it.
 struct Gesture {
   const char* name;
-  void (*connect)(ProbeWindow&, const Action&);
-  void (*perform)(ProbeWindow&);
+  void (*connect)(NativeProbeWindow&, const Action&);
+  void (*perform)(NativeProbeWindow&);
 };
 
-void Click(ProbeWindow& window, const Widget& widget, std::int16_t button = LeftButton) {
+void Click(NativeProbeWindow& window, const Widget& widget, std::int16_t button = LeftButton) {
   ClickAt(window.Window(), ReachablePlace(*NativeOf(widget)).value(), button);
 }
 
 QComboBox& Box(const ListBox& list) { return *qobject_cast<QComboBox*>(NativeOf(list)); }
 
 template <auto event>
-void ConnectTo(ProbeWindow& window, const Action& action) {
+void ConnectTo(NativeProbeWindow& window, const Action& action) {
   (window.Probe().Events.*event).Connect([action](auto&&...) { action(); });
 }
 
@@ -38,81 +38,81 @@ constexpr auto First = &ConnectTo<&Events::FirstClicked>;
 constexpr auto RowPicked = &ConnectTo<&Events::RowPicked>;
 constexpr auto KeyPressed = &ConnectTo<&Events::KeyPressed>;
 
-void ConnectToNote(ProbeWindow& window, const Action& action) {
+void ConnectToNote(NativeProbeWindow& window, const Action& action) {
   window.Probe().OnNote = [action](const std::string& note) {
     if (note == "outer: GotFocus" || note == "outer: Displayed") action();
   };
 }
 
-void InTheMiddle(ProbeWindow& window, const Action& action) {
-  QTimer::singleShot(50, &window.Window(), action);
-}
+void InTheMiddle(NativeProbeWindow& window, const Action& action) { QTimer::singleShot(50, &window.Window(), action); }
 
 const Gesture Gestures[] = {
-    {"Click", First, [](ProbeWindow& window) { Click(window, window.Children().FirstButton); }},
+    {"Click", First, [](NativeProbeWindow& window) { Click(window, window.Children().FirstButton); }},
     {"Space", First,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().FirstButton.SetFocus();
        PressKey(window.Window(), Qt::Key_Space);
      }},
-    {"AccessKey", First, [](ProbeWindow& window) { PressKey(window.Window(), 'F', AltKey); }},
+    {"AccessKey", First, [](NativeProbeWindow& window) { PressKey(window.Window(), 'F', AltKey); }},
     {"DefaultButton", First,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().FirstButton.DEFAULT(true);
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), Qt::Key_Return);
      }},
     {"DefaultButtonFromTheHost", First,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().FirstButton.DEFAULT(true);
        PressKey(window.Window(), Qt::Key_Return);
      }},
     {"LetterKey", KeyPressed,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().PanelButton.SetFocus();
        PressKey(window.Window(), 'Q');
      }},
     {"LeftPress", ConnectTo<&Events::MouseWasDown>,
-     [](ProbeWindow& window) { Click(window, window.Children().ButtonPanel); }},
+     [](NativeProbeWindow& window) { Click(window, window.Children().ButtonPanel); }},
     {"RightPress", ConnectTo<&Events::MouseWasDown>,
-     [](ProbeWindow& window) { Click(window, window.Children().ButtonPanel, RightButton); }},
+     [](NativeProbeWindow& window) { Click(window, window.Children().ButtonPanel, RightButton); }},
     {"Move", ConnectTo<&Events::MouseWasMoved>,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        MoveTo(window.Window(), ReachablePlace(*NativeOf(window.Children().ButtonPanel)).value());
      }},
-    {"PickByMouse", RowPicked, [](ProbeWindow& window) { PickByMouse(Box(window.Children().RowList), 2); }},
+    {"PickByMouse", RowPicked, [](NativeProbeWindow& window) { PickByMouse(Box(window.Children().RowList), 2); }},
     {"PickByReturn", RowPicked,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().RowList.SetFocus();
        PickByReturn(Box(window.Children().RowList), 2);
      }},
     {"PickByArrow", RowPicked,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), Qt::Key_Down);
      }},
     {"PickByLetter", RowPicked,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), 'C');
      }},
     {"PickInTheInnerControl",
-     [](ProbeWindow& window, const Action& action) {
+     [](NativeProbeWindow& window, const Action& action) {
        window.Children().Inner.Events.InnerPicked.Connect([action](std::int32_t&) { action(); });
      },
-     [](ProbeWindow& window) { PickByMouse(Box(window.Children().Inner.Children.InnerList), 1); }},
-    {"FocusByTab", ConnectToNote, [](ProbeWindow& window) { PressKey(window.Window(), Qt::Key_Tab); }},
+     [](NativeProbeWindow& window) { PickByMouse(Box(window.Children().Inner.Children.InnerList), 1); }},
+    {"FocusByTab", ConnectToNote, [](NativeProbeWindow& window) { PressKey(window.Window(), Qt::Key_Tab); }},
     {"FocusByMouse", ConnectToNote,
-     [](ProbeWindow& window) { ClickAt(window.Window(), window.Itself().geometry().bottomRight() - QPoint(3, 3)); }},
+     [](NativeProbeWindow& window) {
+       ClickAt(window.Window(), window.Itself().geometry().bottomRight() - QPoint(3, 3));
+     }},
     {"ShownAgain", ConnectToNote,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        window.Itself().hide();
        window.Itself().show();
      }},
-    {"Wait", InTheMiddle, [](ProbeWindow& window) { Click(window, window.Children().WaitButton); }},
-    {"OpenMenu", InTheMiddle, [](ProbeWindow& window) { Click(window, window.Children().MenuButton); }},
+    {"Wait", InTheMiddle, [](NativeProbeWindow& window) { Click(window, window.Children().WaitButton); }},
+    {"OpenMenu", InTheMiddle, [](NativeProbeWindow& window) { Click(window, window.Children().MenuButton); }},
     {"MenuChoice", ConnectTo<&Events::MenuChosen>,
-     [](ProbeWindow& window) {
+     [](NativeProbeWindow& window) {
        Menu& menu = window.Children().ProbeMenu;
        MenuEntry& entry = window.Children().PlainEntry;
        QTimer::singleShot(50, qApp, [&menu, &entry] { ClickEntry(*OpenMenuOf(menu), entry); });
@@ -126,7 +126,7 @@ class QtDestroyTest : public testing::TestWithParam<std::tuple<Gesture, Victim>>
 
 TEST_P(QtDestroyTest, AHandlerMayDestroyIt) {
   const auto& [gesture, victim] = GetParam();
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   bool destroyed = false;
   gesture.connect(window, [&, which = victim] {
@@ -147,16 +147,17 @@ TEST_P(QtDestroyTest, AHandlerMayDestroyIt) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Gestures, QtDestroyTest,
-    testing::Combine(testing::ValuesIn(Gestures), testing::Values(Victim::Window, Victim::ControlWidget)),
-    [](const auto& row) {
-      return std::string(std::get<0>(row.param).name) +
-             (std::get<1>(row.param) == Victim::Window ? "DestroysTheWindow" : "DestroysTheControl");
-    });
+INSTANTIATE_TEST_SUITE_P(Gestures, QtDestroyTest,
+                         testing::Combine(testing::ValuesIn(Gestures),
+                                          testing::Values(Victim::Window, Victim::ControlWidget)),
+                         [](const auto& row) {
+                           return std::string(std::get<0>(row.param).name) + (std::get<1>(row.param) == Victim::Window
+                                                                                  ? "DestroysTheWindow"
+                                                                                  : "DestroysTheControl");
+                         });
 
 TEST(QtDestroyTest, NativeWidgetsOutliveTheirHandlersInNestedLoops) {
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   const QPointer<QWidget> button(NativeOf(window.Children().WaitButton));
   bool aliveInTheLoop = false;
@@ -189,7 +190,7 @@ TEST(QtDestroyTest, AControlThatEndsBeforeItsWidgetTakesItsNativeWidgetsAlong) {
 }
 
 TEST(QtDestroyTest, TheControlHearsOfItsEndOnce) {
-  auto window = std::make_unique<ProbeWindow>();
+  auto window = std::make_unique<NativeProbeWindow>();
   std::vector<std::string> notes;
   window->Probe().OnNote = [&notes](std::string note) { notes.push_back(std::move(note)); };
   window->Destroy();
@@ -197,7 +198,7 @@ TEST(QtDestroyTest, TheControlHearsOfItsEndOnce) {
 }
 
 TEST(QtDestroyTest, NoTimerOfADeadControlTicks) {
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   int ticks = 0;
   window.Children().WaitTimer.Tick.Connect([&ticks] { ++ticks; });

@@ -6,24 +6,24 @@
 #include <vector>
 
 #include "tests/support/RowName.h"
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
 
 using Texts = std::vector<std::string>;
 
-Widget* NoWidget(ProbeWindow&) { return nullptr; }
-Widget* Outer(ProbeWindow& window) { return &window.Probe().Extender(); }
-Widget* First(ProbeWindow& window) { return &window.Children().FirstButton; }
-Widget* Second(ProbeWindow& window) { return &window.Children().SecondButton; }
-Widget* PanelButton(ProbeWindow& window) { return &window.Children().PanelButton; }
-Widget* List(ProbeWindow& window) { return &window.Children().RowList; }
-Widget* InnerButton(ProbeWindow& window) { return &window.Children().Inner.Children.InnerButton; }
+Widget* NoWidget(NativeProbeWindow&) { return nullptr; }
+Widget* Outer(NativeProbeWindow& window) { return &window.Probe().Extender(); }
+Widget* First(NativeProbeWindow& window) { return &window.Children().FirstButton; }
+Widget* Second(NativeProbeWindow& window) { return &window.Children().SecondButton; }
+Widget* PanelButton(NativeProbeWindow& window) { return &window.Children().PanelButton; }
+Widget* List(NativeProbeWindow& window) { return &window.Children().RowList; }
+Widget* InnerButton(NativeProbeWindow& window) { return &window.Children().Inner.Children.InnerButton; }
 
 struct KeyRow {
   const char* name;
-  Widget* (*focus)(ProbeWindow&);
+  Widget* (*focus)(NativeProbeWindow&);
   std::int32_t key;
   std::int16_t shift;
   Texts events;
@@ -33,7 +33,7 @@ class QtKeysTest : public testing::TestWithParam<KeyRow> {};
 
 TEST_P(QtKeysTest, GoesToOnePlaceOnly) {
   const KeyRow& row = GetParam();
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   if (Widget* focus = row.focus(window)) focus->SetFocus();
   PressKey(window.Window(), row.key, row.shift);
@@ -55,9 +55,9 @@ INSTANTIATE_TEST_SUITE_P(
                     KeyRow{"AccessKeyOfThePanel", First, 'P', AltKey, {"PanelClicked#3"}},
                     KeyRow{"AccessKeyOfTheInnerControl", First, 'I', AltKey, {"InnerClicked#1"}},
                     KeyRow{"AccessKeyFromTheHost", NoWidget, 'F', AltKey, {"FirstClicked#1"}},
-                    KeyRow{"LetterAtTheHost", NoWidget, 'H', 0, {}},
-                    KeyRow{"Digit", First, Qt::Key_5, 0, {}}, KeyRow{"FunctionKey", First, Qt::Key_F5, 0, {}},
-                    KeyRow{"Escape", First, Qt::Key_Escape, 0, {}}, KeyRow{"Arrow", First, Qt::Key_Right, 0, {}},
+                    KeyRow{"LetterAtTheHost", NoWidget, 'H', 0, {}}, KeyRow{"Digit", First, Qt::Key_5, 0, {}},
+                    KeyRow{"FunctionKey", First, Qt::Key_F5, 0, {}}, KeyRow{"Escape", First, Qt::Key_Escape, 0, {}},
+                    KeyRow{"Arrow", First, Qt::Key_Right, 0, {}},
                     KeyRow{"SpaceClicks", Second, Qt::Key_Space, 0, {"SecondClicked#2"}},
                     KeyRow{"EnterWithoutDefaultButton", First, Qt::Key_Return, 0, {}},
                     KeyRow{"ListLetter", List, 'C', 0, {"RowPicked#4(2)"}},
@@ -65,12 +65,11 @@ INSTANTIATE_TEST_SUITE_P(
                     KeyRow{"ListLetterOfNoRow", List, 'X', 0, {}},
                     KeyRow{"ListDown", List, Qt::Key_Down, 0, {"RowPicked#4(0)"}},
                     KeyRow{"ListEnd", List, Qt::Key_End, 0, {"RowPicked#4(4)"}},
-                    KeyRow{"ListPageDown", List, Qt::Key_PageDown, 0, {}},
-                    KeyRow{"ListDigit", List, Qt::Key_5, 0, {}}),
+                    KeyRow{"ListPageDown", List, Qt::Key_PageDown, 0, {}}, KeyRow{"ListDigit", List, Qt::Key_5, 0, {}}),
     RowName());
 
 TEST(QtKeyEventTest, AKeypadKeyIsNoLetter) {
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   QWidget& native = *NativeOf(window.Children().FirstButton);
   QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::KeypadModifier);
@@ -87,7 +86,7 @@ TEST(QtKeyEventTest, ATakenLetterDoesNotTravelOnToTheHost) {
     }
     int presses = 0;
   } counter;
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   window.Window().installEventFilter(&counter);
   window.Children().FirstButton.SetFocus();
@@ -99,10 +98,10 @@ TEST(QtKeyEventTest, ATakenLetterDoesNotTravelOnToTheHost) {
 
 struct DefaultRow {
   const char* name;
-  Widget* (*focus)(ProbeWindow&);
+  Widget* (*focus)(NativeProbeWindow&);
   std::int32_t key;
   std::int16_t shift;
-  void (*prepare)(ProbeWindow&);
+  void (*prepare)(NativeProbeWindow&);
   Texts events;
 };
 
@@ -110,7 +109,7 @@ class QtDefaultButtonTest : public testing::TestWithParam<DefaultRow> {};
 
 TEST_P(QtDefaultButtonTest, EnterPressesIt) {
   const DefaultRow& row = GetParam();
-  ProbeWindow window;
+  NativeProbeWindow window;
   window.Show();
   window.Children().SecondButton.DEFAULT(true);
   row.prepare(window);
@@ -120,29 +119,48 @@ TEST_P(QtDefaultButtonTest, EnterPressesIt) {
   EXPECT_EQ(window.Recorder().Take(), row.events);
 }
 
-void Nothing(ProbeWindow&) {}
+void Nothing(NativeProbeWindow&) {}
 const Texts SecondClicked = {"SecondClicked#2"};
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, QtDefaultButtonTest,
-    testing::Values(
-        DefaultRow{"FromAButtonWithAMap", First, Qt::Key_Return, 0, Nothing, SecondClicked},
-        DefaultRow{"FromTheKeypad", First, Qt::Key_Enter, 0, Nothing, SecondClicked},
-        DefaultRow{"FromAList", List, Qt::Key_Return, 0, Nothing, SecondClicked},
-        DefaultRow{"FromTheInnerControl", InnerButton, Qt::Key_Return, 0, Nothing, SecondClicked},
-        DefaultRow{"FromTheHost", NoWidget, Qt::Key_Return, 0, Nothing, SecondClicked},
-        DefaultRow{"NotWithCtrl", First, Qt::Key_Return, CtrlKey, Nothing, {}},
-        DefaultRow{"NotWhenHidden", First, Qt::Key_Return, 0,
-                   [](ProbeWindow& window) { window.Children().SecondButton.Visible(false); }, {}},
-        DefaultRow{"NotWhenDisabled", First, Qt::Key_Return, 0,
-                   [](ProbeWindow& window) { window.Children().SecondButton.Enabled(false); }, {}},
-        DefaultRow{"NotWhenTheFlagIsTaken", First, Qt::Key_Return, 0,
-                   [](ProbeWindow& window) { window.Children().SecondButton.DEFAULT(false); }, {}},
-        DefaultRow{"NotWhenTheHostHidesIt", NoWidget, Qt::Key_Return, 0,
-                   [](ProbeWindow& window) { window.Itself().hide(); }, {}},
-        DefaultRow{"TheLastOneMade", First, Qt::Key_Return, 0,
-                   [](ProbeWindow& window) { window.Children().Inner.Children.InnerButton.DEFAULT(true); },
-                   {"InnerClicked#1"}}),
+    testing::Values(DefaultRow{"FromAButtonWithAMap", First, Qt::Key_Return, 0, Nothing, SecondClicked},
+                    DefaultRow{"FromTheKeypad", First, Qt::Key_Enter, 0, Nothing, SecondClicked},
+                    DefaultRow{"FromAList", List, Qt::Key_Return, 0, Nothing, SecondClicked},
+                    DefaultRow{"FromTheInnerControl", InnerButton, Qt::Key_Return, 0, Nothing, SecondClicked},
+                    DefaultRow{"FromTheHost", NoWidget, Qt::Key_Return, 0, Nothing, SecondClicked},
+                    DefaultRow{"NotWithCtrl", First, Qt::Key_Return, CtrlKey, Nothing, {}},
+                    DefaultRow{"NotWhenHidden",
+                               First,
+                               Qt::Key_Return,
+                               0,
+                               [](NativeProbeWindow& window) { window.Children().SecondButton.Visible(false); },
+                               {}},
+                    DefaultRow{"NotWhenDisabled",
+                               First,
+                               Qt::Key_Return,
+                               0,
+                               [](NativeProbeWindow& window) { window.Children().SecondButton.Enabled(false); },
+                               {}},
+                    DefaultRow{"NotWhenTheFlagIsTaken",
+                               First,
+                               Qt::Key_Return,
+                               0,
+                               [](NativeProbeWindow& window) { window.Children().SecondButton.DEFAULT(false); },
+                               {}},
+                    DefaultRow{"NotWhenTheHostHidesIt",
+                               NoWidget,
+                               Qt::Key_Return,
+                               0,
+                               [](NativeProbeWindow& window) { window.Itself().hide(); },
+                               {}},
+                    DefaultRow{
+                        "TheLastOneMade",
+                        First,
+                        Qt::Key_Return,
+                        0,
+                        [](NativeProbeWindow& window) { window.Children().Inner.Children.InnerButton.DEFAULT(true); },
+                        {"InnerClicked#1"}}),
     RowName());
 
 TEST(QtDefaultButtonWindowTest, OneOfAWindowHasTheFlag) {

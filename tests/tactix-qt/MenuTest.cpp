@@ -9,7 +9,7 @@
 
 #include "tactix-qt/MenuPopUp.h"
 #include "tests/support/RowName.h"
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
@@ -31,7 +31,7 @@ class QtMenuTest : public testing::Test {
     Settle();
   }
 
-  ProbeWindow window_;
+  NativeProbeWindow window_;
   OuterProbe::ChildWidgets& children_ = window_.Children();
 };
 

@@ -17,7 +17,7 @@
 #include "tactix-qt/peers/ListBoxPeer.h"
 #include "tactix-qt/peers/PushButtonPeer.h"
 #include "tests/support/RowName.h"
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
@@ -31,7 +31,7 @@ class QtPeerTest : public testing::Test {
     return *dynamic_cast<Native*>(NativeOf(widget));
   }
 
-  ProbeWindow window_;
+  NativeProbeWindow window_;
   OuterProbe::ChildWidgets& children_ = window_.Children();
 };
 
@@ -144,7 +144,7 @@ TEST_F(QtPeerTest, ARowThatTheControlTakesBackIsNotShown) {
 
 TEST_F(QtPeerTest, TheOpenListShowsItsLongestRowWhole) {
   auto& native = As<QComboBox>(children_.RowList);
-  const std::string text(50, 'm');
+  const std::string text(30, 'm');
   children_.RowList.AddItem(text);
   native.showPopup();
   Settle();

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/tactix-qt/ProbeWindow.h"
+#include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
 namespace {
@@ -19,7 +19,7 @@ class QtWaitTest : public testing::Test {
  protected:
   QtWaitTest() { window_.Show(); }
 
-  ProbeWindow window_;
+  NativeProbeWindow window_;
   OuterProbe& probe_ = window_.Probe();
 };
 

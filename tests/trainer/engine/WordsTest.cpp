@@ -17,14 +17,10 @@ TEST(WordsTest, Hands) {
     const char* words;
   };
   const Row rows[] = {
-      {HandOf({Rank::Ace, Rank::King}), "blackjack"},
-      {HandOf({Rank::Eight, Rank::Eight}), "pair of 8s"},
-      {HandOf({Rank::Ace, Rank::Ace}), "pair of aces"},
-      {HandOf({Rank::King, Rank::Queen}), "pair of 10s"},
-      {HandOf({Rank::Ace, Rank::Six}), "soft 17"},
-      {HandOf({Rank::Ten, Rank::Six}), "16"},
-      {HandOf({Rank::Ace, Rank::Six, Rank::Ten}), "17"},
-      {HandOf({Rank::Ten, Rank::Six, Rank::Seven}), "bust with 23"},
+      {HandOf({Rank::Ace, Rank::King}), "blackjack"},    {HandOf({Rank::Eight, Rank::Eight}), "pair of 8s"},
+      {HandOf({Rank::Ace, Rank::Ace}), "pair of aces"},  {HandOf({Rank::King, Rank::Queen}), "pair of 10s"},
+      {HandOf({Rank::Ace, Rank::Six}), "soft 17"},       {HandOf({Rank::Ten, Rank::Six}), "16"},
+      {HandOf({Rank::Ace, Rank::Six, Rank::Ten}), "17"}, {HandOf({Rank::Ten, Rank::Six, Rank::Seven}), "bust with 23"},
   };
   for (const Row& row : rows) EXPECT_EQ(WordFor(row.hand), row.words);
 }
@@ -44,8 +40,8 @@ TEST(WordsTest, Amounts) {
     const char* withSign;
   };
   const Row rows[] = {
-      {0, "0", "0"},          {1000, "10", "+10"},    {-1000, "10", "-10"},
-      {1550, "15.50", "+15.50"}, {-5, "0.05", "-0.05"}, {99, "0.99", "+0.99"},
+      {0, "0", "0"},         {1000, "10", "+10"},   {-1000, "10", "-10"}, {1550, "15.50", "+15.50"},
+      {-5, "0.05", "-0.05"}, {99, "0.99", "+0.99"},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(Amount(row.cents), row.amount);

@@ -30,9 +30,9 @@ class ProbeWidget final : public qt::ControlWidget {
 };
 
 /// A host's window with one probe in it and a widget of the host's own, which has the focus at first.
-class ProbeWindow {
+class NativeProbeWindow {
  public:
-  ProbeWindow() : window_(new QWidget), desk_(new QWidget(window_)), widget_(new ProbeWidget(window_)) {
+  NativeProbeWindow() : window_(new QWidget), desk_(new QWidget(window_)), widget_(new ProbeWidget(window_)) {
     desk_->setGeometry(0, 0, 10, 10);
     desk_->setFocusPolicy(Qt::StrongFocus);
     desk_->setFocus();
@@ -41,12 +41,12 @@ class ProbeWindow {
     recorder_.Watch(Probe().Events.All());
     recorder_.Watch(Probe().Children.Inner.Events.All());
   }
-  ~ProbeWindow() {
+  ~NativeProbeWindow() {
     delete window_;
     Settle();
   }
-  ProbeWindow(const ProbeWindow&) = delete;
-  ProbeWindow& operator=(const ProbeWindow&) = delete;
+  NativeProbeWindow(const NativeProbeWindow&) = delete;
+  NativeProbeWindow& operator=(const NativeProbeWindow&) = delete;
 
   void Show() {
     window_->show();
