@@ -28,7 +28,10 @@ class HeadlessRobot final : public Robot {
   void Click(PushButton& button) override { button.Click(); }
 
   void MouseDown(Widget& widget, std::int16_t button, std::int16_t shift) override {
-    widget.MouseDown({button, shift, widget.Width() / 2, widget.Height() / 2});
+    // The mouse has to get there first.
+    const Weak<Widget> target(widget);
+    MouseMove(widget, shift);
+    if (target) widget.MouseDown({button, shift, widget.Width() / 2, widget.Height() / 2});
   }
 
   void MouseMove(Widget& widget, std::int16_t shift) override {
