@@ -36,8 +36,10 @@ class QtRobot final : public Robot, private QObject {
     MakeWindow();
     auto* const host = new qt::ControlWidget(window_);
     hosts_.emplace_back(host);
-    connect(host, &qt::ControlWidget::propertyChanged, this,
-            [this](const QString& name) { changes_.push_back(name.toStdString()); });
+    connect(host, &qt::ControlWidget::propertyChanged, this, [this](const QString& name) {
+      changes_.push_back(name.toStdString());
+      if (const auto handler = onPropertyChanged_) handler();
+    });
     connect(host, &qt::ControlWidget::unhandledError, this,
             [this](const QString& text, int code) { errors_.emplace_back(code, text.toStdString()); });
     return host->ItsSite();
@@ -127,6 +129,8 @@ class QtRobot final : public Robot, private QObject {
 
   void Wait(std::int64_t milliseconds) override { QTest::qWait(static_cast<int>(milliseconds)); }
 
+  void OnPropertyChanged(std::function<void()> handler) override { onPropertyChanged_ = std::move(handler); }
+
   int Beeps() const override { return beeps_; }
   std::vector<std::string> Changes() const override { return changes_; }
   std::vector<Error> Errors() const override { return errors_; }
@@ -211,6 +215,7 @@ class QtRobot final : public Robot, private QObject {
   QPointer<QWidget> window_;
   std::vector<QPointer<qt::ControlWidget>> hosts_;
   std::deque<std::function<void(Menu&)>> scripts_;
+  std::function<void()> onPropertyChanged_;
   std::vector<std::string> changes_;
   std::vector<Error> errors_;
   int beeps_ = 0;

@@ -70,8 +70,8 @@ class HeadlessRobot final : public Robot {
     if (window_) window_->Advance(milliseconds);
   }
 
-  void OnPropertyChanged(const std::function<void()>& handler) override {
-    if (window_) window_->OnPropertyChanged([handler](std::string_view) { handler(); });
+  void OnPropertyChanged(std::function<void()> handler) override {
+    if (window_) window_->OnPropertyChanged([handler = std::move(handler)](std::string_view) { handler(); });
   }
 
   int Beeps() const override { return window_ ? beeps_ + window_->Beeps() : beeps_; }

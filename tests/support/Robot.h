@@ -52,8 +52,8 @@ class Robot {
   virtual void After(std::int64_t milliseconds, std::function<void()> action) = 0;
   /// Lets time pass.
   virtual void Wait(std::int64_t milliseconds) = 0;
-  /// Runs inside every property-changed notice, after it was recorded. A robot that cannot do so never runs it.
-  virtual void OnPropertyChanged(const std::function<void()>& /*handler*/) {}
+  /// Runs inside every property-changed notice, after it was recorded.
+  virtual void OnPropertyChanged(std::function<void()> handler) = 0;
 
   // What can be seen and heard.
   virtual int Beeps() const = 0;
