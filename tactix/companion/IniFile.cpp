@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <map>
+#include <system_error>
 #include <utility>
 
 #include "tactix/companion/Words.h"
@@ -130,6 +131,9 @@ IniFile::IniFile(std::string_view text, std::string_view name) : name_(name) {
 
 IniFile IniFile::Read(const std::filesystem::path& path) {
   const std::string name = Utf8NameOf(path);
+  std::error_code ignored;
+  // Some standard libraries open a folder and find it empty.
+  if (std::filesystem::is_directory(path, ignored)) throw IniError(name, 0, "cannot be read");
   std::ifstream file(path, std::ios::binary);
   // One byte more than it may have: a file that never ends is too large, too.
   std::string text(LargestSize + 1, '\0');

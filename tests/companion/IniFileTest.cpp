@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 #include "tests/support/RowName.h"
@@ -157,7 +158,8 @@ class IniFileOnDiskTest : public testing::Test {
  protected:
   IniFileOnDiskTest() {
     const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::path(testing::TempDir()) / (std::string("tactix-ini-") + test.name());
+    folder_ = std::filesystem::path(testing::TempDir()) /
+              ("tactix-ini-" + std::to_string(std::random_device()()) + "-" + test.name());
     std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
   }
