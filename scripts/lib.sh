@@ -27,11 +27,12 @@ NeedPackages() {
 }
 
 InstallPackages() {
-  "${asRoot[@]}" apt-get update -q
-  "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+  "${asRoot[@]}" apt-get update -q &&
+    "${asRoot[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
-# Step <title> <command>...: runs the command quietly; its output is shown when it fails.
+# Step <title> <command>...: runs the command quietly; its output is shown when it fails. A function must join its
+# commands with "&&": the shell does not stop at a failing command in a condition.
 Step() {
   local title=$1 log started=$SECONDS
   shift
@@ -61,6 +62,5 @@ Build() {
 
 # ConfigureAndBuild <preset> [target]...
 ConfigureAndBuild() {
-  Configure "$1"
-  Build "$@"
+  Configure "$1" && Build "$@"
 }
