@@ -149,6 +149,7 @@ TEST(IniFileTest, AnErrorOutlivesItsFileAndIsCopied) {
   } catch (const IniError& error) {
     kept = error;
   }
+  // The copy is what is tested, so it must not become a reference.
   const IniError copy(kept);  // NOLINT(performance-unnecessary-copy-initialization)
   EXPECT_EQ(copy.Description(), "gone.ini:1: expected 'key = value'");
   EXPECT_EQ(copy.File(), "gone.ini");
