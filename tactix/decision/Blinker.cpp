@@ -37,14 +37,26 @@ bool Blinker::Flash(const ObjectRef& element) {
   // A copy: what was passed may belong to the control.
   const ObjectRef kept = element;
   const Weak<Control> control(control_);
+  if (!PutOffAndOn(*kept, "Visible")) return false;
+  kept->Put("DEFAULT", true);
+  return static_cast<bool>(control);
+}
+
+bool Blinker::FlashEnabled(const ObjectRef& element) {
+  if (!element) throw Error(Error::ObjectNotSet);
+  const ObjectRef kept = element;
+  return PutOffAndOn(*kept, "Enabled");
+}
+
+bool Blinker::PutOffAndOn(Object& element, std::string_view property) {
+  const Weak<Control> control(control_);
   for (int round = 0; round < Rounds; ++round) {
-    for (const bool shown : {false, true}) {
-      kept->Put("Visible", shown);
+    for (const bool on : {false, true}) {
+      element.Put(property, on);
       if (!control || !Wait(HalfRound)) return false;
     }
   }
-  kept->Put("DEFAULT", true);
-  return static_cast<bool>(control);
+  return true;
 }
 
 }  // namespace tactix

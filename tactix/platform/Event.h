@@ -120,6 +120,8 @@ class Event {
     return Connection(list_, list_->Add(std::move(handler)));
   }
 
+  bool HasHandlers() const { return list_ && list_->IsHeard(); }
+
   /// For the control that owns the event. Check afterwards that the control still exists.
   void Raise(Args... args) {
     if (!list_) return;
@@ -146,6 +148,12 @@ class Event {
       if (gone_) return false;
       for (const auto& entry : entries_) {
         if (entry->id == id) return true;
+      }
+      return false;
+    }
+    bool IsHeard() const {
+      for (const auto& entry : entries_) {
+        if (entry->id != 0) return true;
       }
       return false;
     }

@@ -51,6 +51,12 @@ class TACTIX_EXPORT PropertyTable {
   PropertyTable& Property(std::string_view name, G (C::*get)() const, void (C::*set)(S)) {
     return Add(name, Getter(get), Setter(set));
   }
+  /// For a getter with a side effect.
+  template <class C, class G, class S>
+  PropertyTable& Property(std::string_view name, G (C::*get)(), void (C::*set)(S)) {
+    return Add(
+        name, [get](Control& control) { return ToVariant((static_cast<C&>(control).*get)()); }, Setter(set));
+  }
   template <class C, class G>
   PropertyTable& GetOnly(std::string_view name, G (C::*get)() const) {
     return Add(name, Getter(get), nullptr);

@@ -21,9 +21,11 @@ namespace tactix {
 class Extender;
 class ListBox;
 class Site;
+class ToolBar;
+class ToolButton;
 class Widget;
 
-enum class WidgetKind { Extender, Panel, Picture, PushButton, Label, ListBox };
+enum class WidgetKind { Extender, Panel, Picture, PushButton, Label, ListBox, ToolBar };
 
 /// Bits of the mouse buttons, by addition.
 enum MouseButton : std::int16_t { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
@@ -59,7 +61,21 @@ struct KeyPress {
 };
 
 /// What about a widget has changed.
-enum class Aspect { Geometry, Visible, Enabled, ToolTip, Font, Colors, Order, Caption, Default, Value, Row, Text };
+enum class Aspect {
+  Geometry,
+  Visible,
+  Enabled,
+  ToolTip,
+  Font,
+  Colors,
+  Order,
+  Caption,
+  Default,
+  Value,
+  Row,
+  Text,
+  Align
+};
 
 /// What a front end puts on a widget to draw it.
 class TACTIX_EXPORT WidgetObserver {
@@ -68,6 +84,7 @@ class TACTIX_EXPORT WidgetObserver {
   virtual void Changed(Widget& widget, Aspect aspect) = 0;
   virtual void RowInserted(ListBox&, std::int32_t) {}
   virtual void RowsCleared(ListBox&) {}
+  virtual void ButtonChanged(ToolBar&, ToolButton&) {}
   /// The widget is being destroyed; the observer forgets it.
   virtual void Gone(Widget& widget) = 0;
 };

@@ -1,0 +1,61 @@
+#include "tactix/decision/DecisionBAR2.h"
+
+#include "tactix/decision/DecisionToolButtons.h"
+
+namespace tactix {
+
+DecisionBAR2::DecisionBAR2(Site& site) : DecisionToolBarControl(site), Children(site) {
+  Build(Children, "Decision BAR-2");
+  BuildMenu();
+}
+
+DecisionBAR2::~DecisionBAR2() = default;
+
+void DecisionBAR2::BuildMenu() {
+  struct Item {
+    MenuEntry& entry;
+    Coded<ButtonStatusPossibilities>* state;  // null for a separator
+  };
+  const Item items[] = {
+      {Children.menuHoleCardButtonsVisible, &holecardVisibility_},
+      {Children.menuSEP1, nullptr},
+      {Children.menuHitCardButtonsVisible, &hitcardVisibility_},
+      {Children.menuSEP2, nullptr},
+      {Children.menuTensRatioButtonsVisible, &tensRatioVisibility_},
+      {Children.menuSEP3, nullptr},
+      {Children.menuStrongHandButtonsVisible, &dealerStrengthVisibility_},
+      {Children.menuSEP4, nullptr},
+      {Children.menuStatsButtonVisible, &statusVisibility_},
+  };
+  for (const Item& item : items) {
+    Children.menuDecisionBarSettings.Add(item.entry);
+    if (!item.state) continue;
+    // The buttons follow when the host next sets the property, and nobody is told: only saving sees it.
+    item.entry.Chosen.Connect([&entry = item.entry, state = item.state] {
+      entry.Checked(!entry.Checked());
+      *state = entry.Checked() ? ButtonStatusPossibilities::ButtonsArevisible
+                               : ButtonStatusPossibilities::ButtonsAreInvisible;
+    });
+  }
+  const auto openAt = [this](const Widget& pressed) {
+    return [this, &pressed](const MouseState& mouse) {
+      if ((mouse.button & RightButton) == 0) return;
+      const bool isOwn = &pressed == &Extender();
+      ItsSite().PopUp(Children.menuDecisionBarSettings, Extender(), mouse.x + (isOwn ? 0 : pressed.Left()),
+                      mouse.y + (isOwn ? 0 : pressed.Top()));
+    };
+  };
+  Extender().MousePressed.Connect(openAt(Extender()));
+  Children.DecisionToolBar.MousePressed.Connect(openAt(Children.DecisionToolBar));
+}
+
+void DecisionBAR2::ResetTheHitcardPredictionButtons() { Unpress(PredictionGroup::HitCard); }
+
+void DecisionBAR2::ResetTheHoleCardPredictionButtons() { Unpress(PredictionGroup::HoleCard); }
+
+void DecisionBAR2::Terminated() {
+  ReleaseTheBlock();
+  DecisionToolBarControl::Terminated();
+}
+
+}  // namespace tactix

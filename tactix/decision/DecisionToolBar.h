@@ -1,0 +1,175 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+#include "tactix/decision/Blinker.h"
+#include "tactix/decision/DefaultEdition.h"
+#include "tactix/platform/Control.h"
+#include "tactix/platform/Event.h"
+#include "tactix/platform/Export.h"
+#include "tactix/platform/Object.h"
+#include "tactix/platform/Timer.h"
+#include "tactix/platform/Variant.h"
+#include "tactix/platform/widgets/ImageList.h"
+#include "tactix/platform/widgets/Label.h"
+#include "tactix/platform/widgets/ToolBar.h"
+#include "tactix/shared/BlockReader.h"
+#include "tactix/shared/Coded.h"
+#include "tactix/shared/DecisionBlock.h"
+#include "tactix/shared/Enumerations.h"
+
+namespace tactix {
+
+enum class PredictionGroup;
+
+/// What the two decision toolbars have in common: a strip of play buttons and prediction groups that the host docks to
+/// an edge of its window. It reports clicks and keeps the player's predictions until the host collects them; it judges
+/// nothing.
+///
+/// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties, and
+/// fail as the ones of Decision do.
+class TACTIX_EXPORT DecisionToolBarControl : public Control {
+ public:
+  ~DecisionToolBarControl() override;
+
+  /// The docking of the toolbar, bottom once the control has been read. Saved as bottom whatever it is.
+  Coded<DecisionBARAlignment> Alignment() const;
+  void Alignment(Coded<DecisionBARAlignment> alignment);
+  /// Whether a group's buttons are shown: any number but 0. 0 by default, although all buttons are designed visible: a
+  /// group follows its property from the first time that it is set.
+  Coded<ButtonStatusPossibilities> HitcardButtonsVisibility() const { return hitcardVisibility_; }
+  void HitcardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
+  Coded<ButtonStatusPossibilities> HolecardButtonsVisibility() const { return holecardVisibility_; }
+  void HolecardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
+  Coded<ButtonStatusPossibilities> TensRatioButtonVisibility() const { return tensRatioVisibility_; }
+  void TensRatioButtonVisibility(Coded<ButtonStatusPossibilities> visibility);
+  Coded<ButtonStatusPossibilities> DealerStrengthButtonsVisibility() const { return dealerStrengthVisibility_; }
+  void DealerStrengthButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
+  /// Re-applies the dealer-strength buttons and returns 0 whatever was set; saved forms rely on it.
+  Coded<ButtonStatusPossibilities> StatusButtonButtonVisibility();
+  void StatusButtonButtonVisibility(Coded<ButtonStatusPossibilities> visibility);
+  /// Show or hide a group's buttons, without storing anything or pressing or unpressing them. Separators stay.
+  void PlugHitcardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
+  void PlugHoleCardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
+  void PlugTensRatioButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
+  void PlugDealerStrengthButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
+  void PlugStatusButton(const Coded<ButtonStatusPossibilities>& buttonStatus);
+
+  /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
+  const ObjectRef& KelvoEdition();
+  void KelvoEdition(const ObjectRef& edition) { edition_ = edition; }
+  /// The edition code last read, 0 by default.
+  std::int16_t thisKelvoEdition() const { return shortEdition_; }
+  void TheKelvoEditionIs(const ObjectRef& theShortKelvoEdition);
+
+  /// The one call that a host needs for each hand.
+  void SetupTheDecisionBAR(const Variant& thisDCB);
+  void SetupTheDecisionBAR(const DecisionBlock& thisDCB);
+  /// Keeps the edition, enables the plays that the block allows, takes its advice and raises the prompt.
+  void SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition);
+  void SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition);
+  /// Under manual restrictions enables Split, Surrender and Double when they are legal, otherwise all three.
+  void SetupPlayButtons(const Variant& thisDCB);
+  void SetupPlayButtons(const DecisionBlock& thisDCB);
+  void HereIsTheDCB(const Variant& thisDCB);
+  void HereIsTheDCB(const DecisionBlock& thisDCB);
+  void DecodeThisDCB(const Variant& thisDCB);
+  void DecodeThisDCB(const DecisionBlock& thisDCB);
+  /// The control's own copy of the last block.
+  const DecisionBlock& DecodedDCB() const { return decodedDCB_; }
+
+  /// Whether GetReadyForADecision clears the predictions; false by default, not saved.
+  bool ResetPredictionButtons() const { return resetPredictionButtons_; }
+  void ResetPredictionButtons(bool reset) { resetPredictionButtons_ = reset; }
+  void GetReadyForADecision();
+  /// Clears the record and unpresses the prediction buttons, the two "? ?" ones excepted.
+  void ResetYourResponseData();
+  /// The player's predictions; 0 in a field that was not predicted.
+  DecisionBARResponseObject GiveMeYourResponseData() const { return response_; }
+
+  /// Four rounds of disabled 0.2 s and enabled 0.2 s. The object needs "Enabled" and ends enabled.
+  void FlashObject(const ObjectRef& buttonToFlash);
+  /// Waits that many seconds while the user interface goes on running. A negative or non-finite time fails with 380.
+  void BlinkTime(const float& timeAmount);
+
+  void ReadProperties(PropertyBag& bag) override;
+  void WriteProperties(PropertyBag& bag) override;
+  void Resized() override;
+  const PropertyTable& Properties() const override;
+
+  struct EventSet {
+    Event<> HitButtonWasPressed{1, "HitButtonWasPressed"};
+    Event<> StandButtonWasPressed{2, "StandButtonWasPressed"};
+    Event<> SplitButtonWasPressed{3, "SplitButtonWasPressed"};
+    Event<> DoubleButtonWasPressed{4, "DoubleButtonWasPressed"};
+    Event<> StatsButtonWasPressed{5, "StatsButtonWasPressed"};
+    /// Declared for hosts; not raised: the Advice button only flashes the advised play.
+    Event<> AdviceButtonWasPressed{6, "AdviceButtonWasPressed"};
+    Event<> SurrenderButtonWasPressed{7, "SurrenderButtonWasPressed"};
+    /// At the end of every SetupDecisionBAR.
+    Event<std::string&> HereIsThePlayersPromptMessage{8, "HereIsThePlayersPromptMessage"};
+    /// Declared for hosts; not raised: the host collects predictions with GiveMeYourResponseData.
+    Event<DecisionBARResponseObject&> HereIsAResponseBlock{9, "HereIsAResponseBlock"};
+
+    auto All() {
+      return std::tie(HitButtonWasPressed, StandButtonWasPressed, SplitButtonWasPressed, DoubleButtonWasPressed,
+                      StatsButtonWasPressed, AdviceButtonWasPressed, SurrenderButtonWasPressed,
+                      HereIsThePlayersPromptMessage, HereIsAResponseBlock);
+    }
+  } Events;
+
+  /// The child widgets that both toolbars have.
+  struct CommonWidgets {
+    explicit CommonWidgets(Site& site) : BlinkTimer(site) {}
+
+    ToolBar DecisionToolBar;
+    tactix::ImageList ImageList;
+    Timer BlinkTimer;
+    Label DecisionBAR_ID;
+  };
+
+ protected:
+  explicit DecisionToolBarControl(Site& site) : Control(site) {}
+  /// Builds the widgets; called by the variant's constructor, which owns them.
+  void Build(CommonWidgets& widgets, std::string_view identification);
+
+  void Unpress(PredictionGroup group);
+  void ReleaseTheBlock() { decodedDCB_ = DecisionBlock(); }
+
+  Coded<ButtonStatusPossibilities> hitcardVisibility_;
+  Coded<ButtonStatusPossibilities> holecardVisibility_;
+  Coded<ButtonStatusPossibilities> tensRatioVisibility_;
+  Coded<ButtonStatusPossibilities> dealerStrengthVisibility_;
+  Coded<ButtonStatusPossibilities> statusVisibility_;
+
+ private:
+  void Plug(PredictionGroup group, bool shown);
+  std::int32_t RecordOf(PredictionGroup group) const;
+  void Record(PredictionGroup group, std::int32_t value);
+  void PlaceTheDecisionBAR();
+  void Arrange();
+  void ButtonWasClicked(const ToolButton& button);
+  void FlashTheAdvisedButton();
+  void ShowTheResponseOnTheButtons();
+  void UnpressAllPredictionButtons();
+  void SetupBar(const BlockReader& block, const ObjectRef& edition);
+  void SetupButtons(const BlockReader& block);
+  ToolButton& Button(std::string_view key) { return widgets_->DecisionToolBar.Button(key); }
+
+  CommonWidgets* widgets_ = nullptr;
+  std::optional<Blinker> blinker_;
+  DecisionBlock decodedDCB_;
+  DecisionBARResponseObject response_{};
+  ObjectRef edition_;
+  std::string prompt_;
+  std::int16_t advisedDecision_ = 0;
+  std::int16_t shortEdition_ = 0;
+  bool resetPredictionButtons_ = false;
+};
+
+}  // namespace tactix

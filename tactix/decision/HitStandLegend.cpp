@@ -1,0 +1,75 @@
+#include "tactix/decision/HitStandLegend.h"
+
+#include <string>
+#include <string_view>
+
+namespace tactix {
+
+namespace {
+
+struct Line {
+  char letter;
+  std::string_view name;
+  std::string_view letterCaption;
+  std::string_view wordCaption;
+  HitStandLegend::Option HitStandLegend::ChildWidgets::*option;
+  Event<> HitStandLegend::EventSet::*event;
+};
+using Widgets = HitStandLegend::ChildWidgets;
+using Events = HitStandLegend::EventSet;
+constexpr Line Lines[] = {
+    {'H', "LegendOptionHit", "H -", "Hit", &Widgets::LegendOptionHit, &Events::HitWasSelected},
+    {'S', "LegendOptionStand", "S -", "Stand", &Widgets::LegendOptionStand, &Events::StandWasSelected},
+    {'P', "LegendOptionSplit", "P -", "Split", &Widgets::LegendOptionSplit, &Events::SplitWasSelected},
+    {'D', "LegendOptionDouble", "D -", "Double", &Widgets::LegendOptionDouble, &Events::DoubleWasSelected},
+    {'G', "LegendOptionSurrender", "G -", "Surrender", &Widgets::LegendOptionSurrender, &Events::SurrenderWasSelected},
+};
+
+// Twips.
+constexpr float Margin = 90;
+constexpr float LineHeight = 300;
+constexpr float LetterWidth = 450;
+constexpr float WordWidth = 1230;
+constexpr float SizeOfFont = 9.75F;
+
+}  // namespace
+
+HitStandLegend::HitStandLegend(Site& site) : Control(site) {
+  Extender().DesignSize(LetterWidth + WordWidth + 2 * Margin, std::size(Lines) * LineHeight + 2 * Margin);
+  Panel& panel = Children.panelLegend;
+  Extender().Add(panel, "panelLegend");
+  panel.ToolTipText("Click Letters or Use Keyboard to make your Decisions");
+  Resized();
+
+  const auto keys = [this](const KeyPress& key) {
+    if ((key.shift & CtrlKey) != 0) return;
+    for (const Line& line : Lines) {
+      if (line.letter == key.Letter()) return (Events.*line.event).Raise();
+    }
+  };
+  Extender().OnKeyDown(keys);
+  panel.OnKeyDown(keys);
+
+  float top = Margin;
+  for (const Line& line : Lines) {
+    Option& option = Children.*line.option;
+    Event<>& event = Events.*line.event;
+    float left = Margin;
+    for (const auto& [label, caption, width] :
+         {std::tuple{&option[0], line.letterCaption, LetterWidth}, {&option[1], line.wordCaption, WordWidth}}) {
+      panel.Add(*label, line.name);
+      label->Caption(caption);
+      label->Font({"Comic Sans MS", SizeOfFont});
+      label->Place(left, top, width, LineHeight);
+      label->Clicked.Connect([&event] { event.Raise(); });
+      left += width;
+    }
+    top += LineHeight;
+  }
+}
+
+HitStandLegend::~HitStandLegend() = default;
+
+void HitStandLegend::Resized() { Children.panelLegend.Place(0, 0, Extender().ScaleWidth(), Extender().ScaleHeight()); }
+
+}  // namespace tactix
