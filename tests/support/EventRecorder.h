@@ -69,8 +69,10 @@ class EventRecorder {
       return std::string(std::string_view(value));
     } else if constexpr (std::is_constructible_v<Variant, const T&>) {
       return Variant(value).ToText();
-    } else {
+    } else if constexpr (requires { value.Value(); }) {
       return std::to_string(value.Value());  // a coded enumeration
+    } else {
+      return "a record";
     }
   }
 
