@@ -2,9 +2,13 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 
 #include "tactix-qt/AdviceButton.h"
 #include "tactix-qt/Decision.h"
+#include "tactix-qt/DecisionBAR.h"
+#include "tactix-qt/DecisionBAR2.h"
+#include "tactix-qt/HitStandLegend.h"
 #include "tactix-qt/StrategyList.h"
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
@@ -19,6 +23,8 @@ using WidgetRef = std::unique_ptr<QWidget>;
 constexpr std::int16_t BasicStrategy = 0;
 constexpr std::uint64_t Seed = 7;
 constexpr QSize TrainerSize(660, 580);
+constexpr QSize ColumnSize(100, 660);
+constexpr int NarrowWidth = 480;
 
 std::unique_ptr<qt::StrategyList> FilledStrategyList() {
   auto list = std::make_unique<qt::StrategyList>();
@@ -114,6 +120,39 @@ WidgetRef MakeDecisionWithList() {
   return box;
 }
 
+/// A toolbar in the middle of a hand: some predictions made, one play not allowed.
+template <class Bar>
+std::unique_ptr<Bar> MakeBar() {
+  auto bar = std::make_unique<Bar>();
+  DecisionBlock block = PairOfEights();
+  block.ManualPlayerRestrictions(true);
+  block.SplitIsValid(false);
+  bar->SetupPlayButtons(block);
+  ToolBar& strip = bar->control().Children.DecisionToolBar;
+  for (const char* key : {"HitcardLow", "HolecardHigh", "DealerStrengthWeak"}) strip.Button(key).Click();
+  return bar;
+}
+
+template <class Bar>
+WidgetRef MakeToolBar() {
+  return MakeBar<Bar>();
+}
+
+WidgetRef MakeToolBarColumn() {
+  auto bar = MakeBar<qt::DecisionBAR2>();
+  bar->Alignment(qt::DecisionBAR2::DBAlignLeft);
+  bar->resize(ColumnSize);
+  return bar;
+}
+
+WidgetRef MakeToolBarNarrow() {
+  auto bar = MakeBar<qt::DecisionBAR2>();
+  bar->resize(NarrowWidth, bar->height());
+  return bar;
+}
+
+WidgetRef MakeLegend() { return std::make_unique<qt::HitStandLegend>(); }
+
 std::unique_ptr<trainer::screens::TrainerWindow> MakeDealtTrainer() {
   auto window = std::make_unique<trainer::screens::TrainerWindow>(
       trainer::engine::Session({}, Seed), std::make_shared<companion::IniStrategyCatalogue>(
@@ -132,6 +171,21 @@ WidgetRef MakeTrainerWithResult() {
   return window;
 }
 
+template <trainer::screens::InputKind Kind>
+WidgetRef MakeTrainerWith() {
+  companion::Install();
+  auto window = MakeDealtTrainer();
+  window->PlayWith(Kind);
+  window->show();
+  for (const char* key : {"HitcardLow", "DealerStrengthWeak"}) {
+    window->ToolBar().Bar().control().Children.DecisionToolBar.Button(key).Click();
+  }
+  // The trainer looks at the predictions after each thing its player does.
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
+  QApplication::sendEvent(window.get(), &release);
+  return window;
+}
+
 constexpr Scene AllScenes[] = {
     {"strategy-list", MakeStrategyList},
     {"strategy-list-choice", MakeStrategyListWithChoice},
@@ -146,8 +200,15 @@ constexpr Scene AllScenes[] = {
     {"decision-prediction", MakeDecisionWithPrediction},
     {"decision-restricted", MakeDecisionRestricted},
     {"decision-list", MakeDecisionWithList},
+    {"decision-bar", MakeToolBar<qt::DecisionBAR>},
+    {"decision-bar2", MakeToolBar<qt::DecisionBAR2>},
+    {"decision-bar2-vertical", MakeToolBarColumn},
+    {"decision-bar2-narrow", MakeToolBarNarrow},
+    {"hit-stand-legend", MakeLegend},
     {"trainer", MakeTrainer},
     {"trainer-result", MakeTrainerWithResult},
+    {"trainer-toolbar", MakeTrainerWith<trainer::screens::InputKind::ToolBar>},
+    {"trainer-legend", MakeTrainerWith<trainer::screens::InputKind::ToolBarAndLegend>},
 };
 
 }  // namespace

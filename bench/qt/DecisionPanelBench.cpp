@@ -3,22 +3,22 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <algorithm>
 #include <array>
-#include <ctime>
-#include <vector>
 
 #include "bench/qt/HandWrittenPanel.h"
+#include "bench/qt/InTurns.h"
 #include "tactix-qt/Decision.h"
 
 namespace {
 
 using tactix::bench::HandWrittenPanel;
+using tactix::bench::InTurns;
+using tactix::bench::Painting;
+using tactix::bench::Subject;
 
-constexpr std::size_t Hands = 30;
-enum class Painting { Left, Done };
+constexpr std::size_t Hands = tactix::bench::Subject::Rounds;
 
 HandWrittenPanel::Hand HandOf(std::size_t i) {
   HandWrittenPanel::Hand hand;
@@ -48,12 +48,6 @@ tactix::DecisionBlock BlockOf(const HandWrittenPanel::Hand& hand) {
   return block;
 }
 
-double ThreadSeconds() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
 void PressHit(QWidget& window) {
   QKeyEvent press(QEvent::KeyPress, Qt::Key_H, Qt::NoModifier, QStringLiteral("h"));
   QCoreApplication::sendEvent(window.focusWidget(), &press);
@@ -61,40 +55,12 @@ void PressHit(QWidget& window) {
   QCoreApplication::sendEvent(window.focusWidget(), &release);
 }
 
-/// One of the two panels, and how often its signal has been heard.
-class Subject {
- public:
-  virtual ~Subject() = default;
-
-  void Show() {
-    Window().show();
-    Window().activateWindow();
-    Window().setFocus();
-    QApplication::processEvents();
-  }
-
-  /// Decides all hands once; answers the processor time in seconds.
-  double Decide(Painting painting) {
-    const double start = ThreadSeconds();
-    for (std::size_t i = 0; i < Hands; ++i) {
-      SetUp(i);
-      if (painting == Painting::Done) QApplication::processEvents();
-      PressHit(Window());
-      if (painting == Painting::Done) QApplication::processEvents();
-    }
-    return ThreadSeconds() - start;
-  }
-
-  std::int64_t Heard() const { return heard_; }
-
+class Panel : public Subject {
  protected:
-  virtual QWidget& Window() = 0;
-  virtual void SetUp(std::size_t hand) = 0;
-
-  std::int64_t heard_ = 0;
+  void Act() override { PressHit(Window()); }
 };
 
-class Box final : public Subject {
+class Box final : public Panel {
  public:
   Box() {
     box_.DecisionBoxType(tactix::qt::Decision::forUseWithBlackjackTable);
@@ -111,7 +77,7 @@ class Box final : public Subject {
   std::array<tactix::DecisionBlock, Hands> blocks_;
 };
 
-class ByHand final : public Subject {
+class ByHand final : public Panel {
  public:
   ByHand() {
     for (std::size_t i = 0; i < Hands; ++i) hands_[i] = HandOf(i);
@@ -127,25 +93,10 @@ class ByHand final : public Subject {
   std::array<HandWrittenPanel::Hand, Hands> hands_;
 };
 
-/// Turn and turn about, so that what else the machine does falls on both alike.
 void DecideInTurns(benchmark::State& state, Painting painting) {
   Box box;
   ByHand byHand;
-  box.Decide(painting);
-  byHand.Decide(painting);
-  std::vector<double> ratios;
-  std::int64_t rounds = 1;
-  for (auto _ : state) {
-    const double seconds = box.Decide(painting);
-    ratios.push_back(seconds / byHand.Decide(painting));
-    state.SetIterationTime(seconds / static_cast<double>(Hands));
-    ++rounds;
-  }
-  const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
-  std::nth_element(ratios.begin(), middle, ratios.end());
-  state.counters["beside"] = *middle;
-  const std::int64_t keys = rounds * static_cast<std::int64_t>(Hands);
-  if (box.Heard() != keys || byHand.Heard() != keys) state.SkipWithError("a key was not heard");
+  InTurns(state, box, byHand, painting);
 }
 
 void Decision(benchmark::State& state) { DecideInTurns(state, Painting::Left); }

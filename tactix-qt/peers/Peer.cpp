@@ -104,6 +104,7 @@ void Peer::Update(Aspect aspect) {
     case Aspect::Value:
     case Aspect::Row:
     case Aspect::Text:
+    case Aspect::Align:
       break;
   }
 }
@@ -142,11 +143,11 @@ void Peer::After(QEvent& event) {
   switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      if (!native_.isEnabled()) return;
+      if (!native_.isEnabled() || !TakesMouse()) return;
       event.accept();
       return MousePressed(static_cast<QMouseEvent&>(event));
     case QEvent::MouseMove:
-      if (!native_.isEnabled()) return;
+      if (!native_.isEnabled() || !TakesMouse()) return;
       event.accept();
       return MouseMoved(static_cast<QMouseEvent&>(event));
     case QEvent::ContextMenu:

@@ -48,11 +48,18 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   virtual bool TakesKey(const QKeyEvent&) const { return false; }
   /// Whether a press on the native widget's own area gives it the focus.
   virtual bool TakesClickFocus() const { return false; }
+  /// Whether it keeps what the mouse does on it from its parent.
+  virtual bool TakesMouse() const { return true; }
 
   /// To call before the native widget handles an event: true when it must not.
   bool Before(QEvent& event);
   /// To call when it has.
   void After(QEvent& event);
+
+  /// A press or a move of the mouse at a place on the native widget.
+  MouseState StateAt(const QPointF& place, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) const;
+  /// Hands a press over once Qt is done with it.
+  void Post(const MouseState& state);
 
   QtSite& ItsSite() const { return site_; }
   /// What a screen reader says: the caption, or else the tool tip, or else the name.
@@ -62,8 +69,6 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   bool KeyPressed(QKeyEvent& event);
   void MousePressed(const QMouseEvent& event);
   void MenuKeyPressed();
-  void Post(const MouseState& state);
-  MouseState StateAt(const QPointF& place, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) const;
 
   Widget* widget_;
   QtSite& site_;

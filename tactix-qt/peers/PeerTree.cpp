@@ -10,6 +10,7 @@
 #include "tactix-qt/peers/LabelPeer.h"
 #include "tactix-qt/peers/ListBoxPeer.h"
 #include "tactix-qt/peers/PushButtonPeer.h"
+#include "tactix-qt/peers/ToolBarPeer.h"
 
 namespace tactix::qt {
 
@@ -32,6 +33,8 @@ QWidget* MakePeer(Widget& widget, QtSite& site, QWidget& parent) {
       return make(new LabelPeer(static_cast<Label&>(widget), site, &parent));
     case WidgetKind::ListBox:
       return make(new ListBoxPeer(static_cast<ListBox&>(widget), site, &parent));
+    case WidgetKind::ToolBar:
+      return make(new ToolBarPeer(static_cast<ToolBar&>(widget), site, &parent));
   }
   return nullptr;
 }

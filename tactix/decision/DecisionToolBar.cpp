@@ -14,10 +14,13 @@ namespace {
 
 using Status = Coded<ButtonStatusPossibilities>;
 
-// Twips.
-constexpr float DesignWidth = 12600;
+// Twips. The captions stand below the pictures in a row, and beside them in a column.
+constexpr float DesignWidth = 14400;
 constexpr float DesignHeight = 900;
-constexpr float Thickness = 900;
+constexpr float RowThickness = 900;
+constexpr float ColumnThickness = 1500;
+
+constexpr auto Bottom = static_cast<std::int32_t>(DecisionBARAlignment::DBAlignBottom);
 
 bool IsShown(Status status) { return status != ButtonStatusPossibilities::ButtonsAreInvisible; }
 
@@ -36,6 +39,7 @@ void DecisionToolBarControl::Build(CommonWidgets& widgets, std::string_view iden
   widgets.ImageList = tactix::ImageList(DecisionPictures);
   widgets.DecisionToolBar.AddButtons(DecisionToolButtons);
   widgets.DecisionToolBar.Pictures(widgets.ImageList);
+  widgets.DecisionToolBar.Align(Bottom);
   widgets.DecisionToolBar.ButtonClicked.Connect([this](const ToolButton& button) { ButtonWasClicked(button); });
   Arrange();
 }
@@ -53,19 +57,21 @@ void DecisionToolBarControl::Alignment(Coded<DecisionBARAlignment> alignment) {
 void DecisionToolBarControl::Arrange() {
   const float width = Extender().ScaleWidth();
   const float height = Extender().ScaleHeight();
+  const float row = std::min(RowThickness, height);
+  const float column = std::min(ColumnThickness, width);
   ToolBar& bar = widgets_->DecisionToolBar;
   switch (Alignment().Row()) {
     case DecisionBARAlignment::DBAlignBottom:
-      bar.Place(0, std::max(height - Thickness, 0.0F), width, std::min(Thickness, height));
+      bar.Place(0, height - row, width, row);
       break;
     case DecisionBARAlignment::DBAlignLeft:
-      bar.Place(0, 0, std::min(Thickness, width), height);
+      bar.Place(0, 0, column, height);
       break;
     case DecisionBARAlignment::DBAlignRight:
-      bar.Place(std::max(width - Thickness, 0.0F), 0, std::min(Thickness, width), height);
+      bar.Place(width - column, 0, column, height);
       break;
     default:
-      bar.Place(0, 0, width, std::min(Thickness, height));
+      bar.Place(0, 0, width, row);
   }
   widgets_->DecisionBAR_ID.Place(0, 0, width, height);
 }
@@ -141,9 +147,12 @@ Status DecisionToolBarControl::StatusButtonButtonVisibility() {
 
 // The edition.
 
-const ObjectRef& DecisionToolBarControl::KelvoEdition() {
-  if (!edition_) edition_ = DefaultEdition::Create();
-  return edition_;
+ObjectRef DecisionToolBarControl::KelvoEdition() {
+  if (edition_) return edition_;
+  const Weak<DecisionToolBarControl> self(this);
+  const ObjectRef created = DefaultEdition::Create();
+  if (self) edition_ = created;
+  return created;
 }
 
 void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdition) {
@@ -156,33 +165,38 @@ void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdi
 
 // Setting up for a hand.
 
-void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) {
-  const BlockReader block(thisDCB);
-  DecodeBlock(block, decodedDCB_);
-  SetupBar(block, KelvoEdition());
-}
-void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) {
-  const BlockReader block(thisDCB);
-  DecodeBlock(block, decodedDCB_);
-  SetupBar(block, KelvoEdition());
-}
-void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBar(BlockReader(thisDCB), userKelvoEdition);
-}
-void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBar(BlockReader(thisDCB), userKelvoEdition);
+void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
+
+void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
+  const Weak<DecisionToolBarControl> self(this);
+  Decode(block);
+  if (self) KelvoEdition();
+  if (self) SetupBar(block);
 }
 
-void DecisionToolBarControl::SetupBar(const BlockReader& block, const ObjectRef& edition) {
-  edition_ = edition;
+void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
+  KelvoEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB));
+}
+void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
+  KelvoEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB));
+}
+
+void DecisionToolBarControl::SetupBar(const BlockReader& block) {
+  // Any read may run code of the host's: it may destroy the bar, or set it up for another hand.
+  const Weak<DecisionToolBarControl> self(this);
   SetupButtons(block);
-  advisedDecision_ = block.Value(BlockField::StrategyAdvice).ToInteger();
+  if (!self) return;
+  const std::int16_t advice = block.Value(BlockField::StrategyAdvice).ToInteger();
+  if (!self) return;
+  advisedDecision_ = advice;
   // Out of the member while it is raised: a handler may set up the next hand.
   std::string prompt = std::exchange(prompt_, {});
   prompt.clear();
   AppendDecisionPrompt(block, prompt);
-  const Weak<DecisionToolBarControl> self(this);
-  Events.HereIsThePlayersPromptMessage.Raise(prompt);
+  if (self) Events.HereIsThePlayersPromptMessage.Raise(prompt);
   if (self) prompt_ = std::move(prompt);
 }
 
@@ -190,21 +204,27 @@ void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupBut
 void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
 
 void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
+  const Weak<DecisionToolBarControl> self(this);
   const bool restricted = block.Value(BlockField::ManualPlayerRestrictions).CountsAsTrue();
   const auto legal = [&](BlockField field) { return !restricted || block.Value(field).ToBoolean(); };
-  Button("Split").Enabled(legal(BlockField::SplitIsValid));
-  Button("Surrender").Enabled(legal(BlockField::SurrenderIsValid));
+  const bool split = legal(BlockField::SplitIsValid);
+  if (self) Button("Split").Enabled(split);
+  const bool surrender = legal(BlockField::SurrenderIsValid);
+  if (self) Button("Surrender").Enabled(surrender);
   // Both are read: an object that lacks the second fails even where the first allows the play.
   const bool hardDouble = legal(BlockField::HardDoubleIsValid);
   const bool softDouble = legal(BlockField::SoftDoubleIsValid);
-  Button("Double").Enabled(hardDouble || softDouble);
+  if (self) Button("Double").Enabled(hardDouble || softDouble);
 }
 
 void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { DecodeBlock(BlockReader(thisDCB), decodedDCB_); }
-void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) {
-  DecodeBlock(BlockReader(thisDCB), decodedDCB_);
+void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
+void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void DecisionToolBarControl::Decode(const BlockReader& block) {
+  // Kept, since reading a host's object may destroy the bar.
+  const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
+  DecodeBlock(block, *copy);
 }
 
 // What the player does.
@@ -294,34 +314,42 @@ void DecisionToolBarControl::Unpress(PredictionGroup group) {
 
 // Saved properties.
 
+constexpr DecisionToolBarControl::SavedVisibility DecisionToolBarControl::SavedVisibilities[] = {
+    {"HitcardButtonsVisibility", &DecisionToolBarControl::hitcardVisibility_},
+    {"HoleCardButtonsVisibility", &DecisionToolBarControl::holecardVisibility_},
+    {"TensRatioButtonsVisibility", &DecisionToolBarControl::tensRatioVisibility_},
+    {"DealerStrengthButtonsVisibility", &DecisionToolBarControl::dealerStrengthVisibility_},
+    {"StatusButtonVisibility", &DecisionToolBarControl::statusVisibility_},
+};
+
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
-  // The buttons stay as they are until the host sets a visibility.
-  const auto restore = [&bag](std::string_view name, Status& status) {
-    IgnoringErrors([&] { status = bag.Read(name, 0).ToLong(); });
-  };
-  restore("HitcardButtonsVisibility", hitcardVisibility_);
-  restore("HoleCardButtonsVisibility", holecardVisibility_);
-  restore("TensRatioButtonsVisibility", tensRatioVisibility_);
-  restore("DealerStrengthButtonsVisibility", dealerStrengthVisibility_);
-  restore("StatusButtonVisibility", statusVisibility_);
-  constexpr auto bottom = static_cast<std::int32_t>(DecisionBARAlignment::DBAlignBottom);
-  Coded<DecisionBARAlignment> alignment = bottom;
-  IgnoringErrors([&] { alignment = bag.Read("Alignment", bottom).ToLong(); });
+  // A bag is the host's: it may destroy the bar in the middle of reading and writing.
   const Weak<DecisionToolBarControl> self(this);
-  Alignment(alignment);
+  const auto saved = [&bag](std::string_view name, std::int32_t value) {
+    IgnoringErrors([&] { value = bag.Read(name, value).ToLong(); });
+    return value;
+  };
+  // The buttons stay as they are until the host sets a visibility.
+  for (const auto& [name, state] : SavedVisibilities) {
+    const std::int32_t visibility = saved(name, 0);
+    if (!self) return;
+    this->*state = visibility;
+  }
+  const std::int32_t alignment = saved("Alignment", Bottom);
+  if (self) Alignment(alignment);
   if (self) PlaceTheDecisionBAR();
 }
 
 void DecisionToolBarControl::WriteProperties(PropertyBag& bag) {
-  // Saved as bottom whatever the docking is: saved forms rely on it.
-  bag.Write("Alignment", static_cast<std::int32_t>(DecisionBARAlignment::DBAlignBottom));
-  bag.Write("HitcardButtonsVisibility", HitcardButtonsVisibility().Value());
-  bag.Write("HoleCardButtonsVisibility", HolecardButtonsVisibility().Value());
-  bag.Write("TensRatioButtonsVisibility", TensRatioButtonVisibility().Value());
-  bag.Write("DealerStrengthButtonsVisibility", DealerStrengthButtonsVisibility().Value());
   const Weak<DecisionToolBarControl> self(this);
-  const std::int32_t status = StatusButtonButtonVisibility().Value();
-  if (self) bag.Write("StatusButtonVisibility", status);
+  // Saved as bottom whatever the docking is: saved forms rely on it.
+  bag.Write("Alignment", Bottom);
+  for (const auto& [name, state] : SavedVisibilities) {
+    if (!self) return;
+    const Status value =
+        state == &DecisionToolBarControl::statusVisibility_ ? StatusButtonButtonVisibility() : this->*state;
+    if (self) bag.Write(name, value.Value());
+  }
 }
 
 const PropertyTable& DecisionToolBarControl::Properties() const {

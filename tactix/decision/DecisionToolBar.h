@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,7 +38,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
  public:
   ~DecisionToolBarControl() override;
 
-  /// The docking of the toolbar, bottom once the control has been read. Saved as bottom whatever it is.
+  /// The docking of the toolbar, bottom by default; any number is kept, and one that is no edge docks nowhere. Saved as
+  /// bottom whatever it is.
   Coded<DecisionBARAlignment> Alignment() const;
   void Alignment(Coded<DecisionBARAlignment> alignment);
   /// Whether a group's buttons are shown: any number but 0. 0 by default, although all buttons are designed visible: a
@@ -61,13 +63,15 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void PlugStatusButton(const Coded<ButtonStatusPossibilities>& buttonStatus);
 
   /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
-  const ObjectRef& KelvoEdition();
+  ObjectRef KelvoEdition();
   void KelvoEdition(const ObjectRef& edition) { edition_ = edition; }
-  /// The edition code last read, 0 by default.
+  /// The edition code last read, 0 by default. Nothing in the toolbar depends on it.
   std::int16_t thisKelvoEdition() const { return shortEdition_; }
+  /// Reads the object's "thisKelvoEdition"; null fails with 91.
   void TheKelvoEditionIs(const ObjectRef& theShortKelvoEdition);
 
-  /// The one call that a host needs for each hand.
+  /// The one call that a host needs for each hand: copies the block, sees to it that there is an edition, and does what
+  /// SetupDecisionBAR does.
   void SetupTheDecisionBAR(const Variant& thisDCB);
   void SetupTheDecisionBAR(const DecisionBlock& thisDCB);
   /// Keeps the edition, enables the plays that the block allows, takes its advice and raises the prompt.
@@ -81,7 +85,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void DecodeThisDCB(const Variant& thisDCB);
   void DecodeThisDCB(const DecisionBlock& thisDCB);
   /// The control's own copy of the last block.
-  const DecisionBlock& DecodedDCB() const { return decodedDCB_; }
+  const DecisionBlock& DecodedDCB() const { return *decodedDCB_; }
 
   /// Whether GetReadyForADecision clears the predictions; false by default, not saved.
   bool ResetPredictionButtons() const { return resetPredictionButtons_; }
@@ -97,7 +101,9 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   /// Waits that many seconds while the user interface goes on running. A negative or non-finite time fails with 380.
   void BlinkTime(const float& timeAmount);
 
+  /// A saved property that cannot be read has its default: bottom, and 0 for the visibilities.
   void ReadProperties(PropertyBag& bag) override;
+  /// A property that cannot be written ends it with the bag's error.
   void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
   const PropertyTable& Properties() const override;
@@ -139,7 +145,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void Build(CommonWidgets& widgets, std::string_view identification);
 
   void Unpress(PredictionGroup group);
-  void ReleaseTheBlock() { decodedDCB_ = DecisionBlock(); }
+  void ReleaseTheBlock() { decodedDCB_ = std::make_shared<DecisionBlock>(); }
 
   Coded<ButtonStatusPossibilities> hitcardVisibility_;
   Coded<ButtonStatusPossibilities> holecardVisibility_;
@@ -148,6 +154,13 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   Coded<ButtonStatusPossibilities> statusVisibility_;
 
  private:
+  /// A visibility and the name under which it is saved and announced.
+  struct SavedVisibility {
+    std::string_view name;
+    Coded<ButtonStatusPossibilities> DecisionToolBarControl::*state;
+  };
+  static const SavedVisibility SavedVisibilities[5];
+
   void Plug(PredictionGroup group, bool shown);
   std::int32_t RecordOf(PredictionGroup group) const;
   void Record(PredictionGroup group, std::int32_t value);
@@ -157,13 +170,15 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void FlashTheAdvisedButton();
   void ShowTheResponseOnTheButtons();
   void UnpressAllPredictionButtons();
-  void SetupBar(const BlockReader& block, const ObjectRef& edition);
+  void Decode(const BlockReader& block);
+  void SetupForAHand(const BlockReader& block);
+  void SetupBar(const BlockReader& block);
   void SetupButtons(const BlockReader& block);
   ToolButton& Button(std::string_view key) { return widgets_->DecisionToolBar.Button(key); }
 
   CommonWidgets* widgets_ = nullptr;
   std::optional<Blinker> blinker_;
-  DecisionBlock decodedDCB_;
+  std::shared_ptr<DecisionBlock> decodedDCB_ = std::make_shared<DecisionBlock>();
   DecisionBARResponseObject response_{};
   ObjectRef edition_;
   std::string prompt_;

@@ -16,13 +16,14 @@ struct Line {
   Event<> HitStandLegend::EventSet::*event;
 };
 using Widgets = HitStandLegend::ChildWidgets;
-using Events = HitStandLegend::EventSet;
+using LegendEvents = HitStandLegend::EventSet;
 constexpr Line Lines[] = {
-    {'H', "LegendOptionHit", "H -", "Hit", &Widgets::LegendOptionHit, &Events::HitWasSelected},
-    {'S', "LegendOptionStand", "S -", "Stand", &Widgets::LegendOptionStand, &Events::StandWasSelected},
-    {'P', "LegendOptionSplit", "P -", "Split", &Widgets::LegendOptionSplit, &Events::SplitWasSelected},
-    {'D', "LegendOptionDouble", "D -", "Double", &Widgets::LegendOptionDouble, &Events::DoubleWasSelected},
-    {'G', "LegendOptionSurrender", "G -", "Surrender", &Widgets::LegendOptionSurrender, &Events::SurrenderWasSelected},
+    {'H', "LegendOptionHit", "H -", "Hit", &Widgets::LegendOptionHit, &LegendEvents::HitWasSelected},
+    {'S', "LegendOptionStand", "S -", "Stand", &Widgets::LegendOptionStand, &LegendEvents::StandWasSelected},
+    {'P', "LegendOptionSplit", "P -", "Split", &Widgets::LegendOptionSplit, &LegendEvents::SplitWasSelected},
+    {'D', "LegendOptionDouble", "D -", "Double", &Widgets::LegendOptionDouble, &LegendEvents::DoubleWasSelected},
+    {'G', "LegendOptionSurrender", "G -", "Surrender", &Widgets::LegendOptionSurrender,
+     &LegendEvents::SurrenderWasSelected},
 };
 
 // Twips.
@@ -41,14 +42,13 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
   panel.ToolTipText("Click Letters or Use Keyboard to make your Decisions");
   Resized();
 
-  const auto keys = [this](const KeyPress& key) {
+  // Around the panel, so that the whole legend is one stop for the Tab key.
+  Extender().OnKeyDown([this](const KeyPress& key) {
     if ((key.shift & CtrlKey) != 0) return;
     for (const Line& line : Lines) {
       if (line.letter == key.Letter()) return (Events.*line.event).Raise();
     }
-  };
-  Extender().OnKeyDown(keys);
-  panel.OnKeyDown(keys);
+  });
 
   float top = Margin;
   for (const Line& line : Lines) {

@@ -7,9 +7,12 @@
 #include <vector>
 
 #include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/decision/DecisionBAR2.h"
+#include "tactix/decision/DefaultEdition.h"
 #include "tactix/platform/headless/HeadlessSite.h"
 #include "tactix/strategy/StrategyList.h"
 #include "tactix/strategy/StrategyListData.h"
+#include "tests/platform/ErrorCode.h"
 
 namespace tactix::tests {
 namespace {
@@ -22,6 +25,7 @@ class CompanionTest : public testing::Test {
   static void Forget() {
     StrategyListData::UseCatalogue(nullptr);
     StrategyListData::CreateCatalogueWith(nullptr);
+    DefaultEdition::CreateWith(nullptr);
   }
 };
 
@@ -36,6 +40,21 @@ TEST_F(CompanionTest, ListsFillThemselvesOnceInstalled) {
   EXPECT_EQ(rows,
             (std::vector<std::string>{"Not Present", "Basic 4-8 Decks S17", "Basic 4-8 Decks H17", "Basic 1 Deck H17",
                                       "Basic 1 Deck S17", "Mimic the Dealer", "Never Bust", "Not Present"}));
+}
+
+TEST_F(CompanionTest, ToolbarsMakeThemselvesAnEditionOnceInstalled) {
+  HeadlessSite site;
+  DecisionBAR2 bar(site);
+  EXPECT_EQ(ErrorCodeOf([&] { bar.SetupTheDecisionBAR(DecisionBlock()); }), 91);
+  companion::Install();
+  bar.SetupTheDecisionBAR(DecisionBlock());
+  const ObjectRef edition = bar.KelvoEdition();
+  EXPECT_EQ(edition->Get("thisKelvoEdition"), 0);
+  edition->Put("thisKelvoEdition", 3);
+  bar.TheKelvoEditionIs(edition);
+  EXPECT_EQ(bar.thisKelvoEdition(), 3);
+  DecisionBAR2 other(site);
+  EXPECT_NE(other.KelvoEdition(), edition) << "each has its own";
 }
 
 TEST_F(CompanionTest, InstallingAgainKeepsWhatWasCreated) {

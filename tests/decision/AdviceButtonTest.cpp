@@ -177,6 +177,61 @@ TEST_F(AdviceButtonTest, BothElementsTakeTheControlsWidth) {
   }
 }
 
+class AdviceButtonListTest : public AdviceButtonTest {
+ protected:
+  void SelectStrategy() {
+    site_.ScriptMenu([this](Menu&) { children_.mnuSelectStrategy.Choose(); });
+    children_.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});
+  }
+  Texts Rows() const {
+    const ListBox& list = children_.StrategyListBox.Children.StrategyListBox;
+    Texts rows;
+    for (std::int32_t row = 0; row < list.ListCount(); ++row) rows.push_back(list.List(row));
+    return rows;
+  }
+};
+
+TEST_F(AdviceButtonListTest, FillsItsListWhenItIsFirstOpened) {
+  const InstalledCatalogue catalogue;
+  catalogue->Describe(2);
+  EXPECT_EQ(Rows(), Texts{});
+  SelectStrategy();
+  const Texts filled = Rows();
+  EXPECT_FALSE(filled.empty());
+  const std::size_t asked = catalogue->Log.size();
+  SelectStrategy();
+  EXPECT_EQ(Rows(), filled);
+  EXPECT_EQ(catalogue->Log.size(), asked) << "the catalogue is not asked again";
+  EXPECT_EQ(recorder_.Take(),
+            (Texts{"StrategyListBoxVisibilityChanged#4(true)", "StrategyListBoxVisibilityChanged#4(true)"}));
+}
+
+TEST_F(AdviceButtonListTest, LeavesTheRowsThatTheHostHasAdded) {
+  const InstalledCatalogue catalogue;
+  catalogue->Describe(2);
+  children_.StrategyListBox.AddItem("mine");
+  SelectStrategy();
+  EXPECT_EQ(Rows(), Texts{"mine"});
+}
+
+TEST_F(AdviceButtonListTest, WithoutACatalogueItOpensEmpty) {
+  SelectStrategy();
+  EXPECT_EQ(Rows(), Texts{});
+  EXPECT_TRUE(children_.StrategyListBox.Extender().Visible());
+  EXPECT_EQ(recorder_.Take(), Texts{"StrategyListBoxVisibilityChanged#4(true)"});
+  EXPECT_TRUE(site_.Errors().empty());
+}
+
+TEST_F(AdviceButtonListTest, AnotherErrorOfTheCatalogueReachesTheSite) {
+  const InstalledCatalogue catalogue;
+  catalogue->Describe(2);
+  catalogue->OnCall = [](const std::string&) { throw Error(4711); };
+  SelectStrategy();
+  ASSERT_EQ(site_.Errors().size(), 1U);
+  EXPECT_EQ(site_.Errors()[0].Code(), 4711);
+  EXPECT_FALSE(children_.StrategyListBox.Extender().Visible());
+}
+
 TEST_F(AdviceButtonTest, KeepsTheListsNoticesToItself) {
   children_.StrategyListBox.Text("x");
   EXPECT_EQ(site_.Changes(), Texts{});

@@ -13,12 +13,22 @@
 namespace tactix::tests {
 namespace {
 
+// What the first form lacks.
 template <class Bar>
-concept UnpressesGroups = requires(Bar& bar) {
+concept UnpressesTheHitCard = requires(Bar& bar) {
   bar.ResetTheHitcardPredictionButtons();
+};
+template <class Bar>
+concept UnpressesTheHoleCard = requires(Bar& bar) {
   bar.ResetTheHoleCardPredictionButtons();
 };
-static_assert(UnpressesGroups<DecisionBAR2> && !UnpressesGroups<DecisionBAR>);
+template <class Bar>
+concept HasSettings = requires(Bar& bar) {
+  bar.Children.menuDecisionBarSettings;
+};
+static_assert(UnpressesTheHitCard<DecisionBAR2> && !UnpressesTheHitCard<DecisionBAR>);
+static_assert(UnpressesTheHoleCard<DecisionBAR2> && !UnpressesTheHoleCard<DecisionBAR>);
+static_assert(HasSettings<DecisionBAR2> && !HasSettings<DecisionBAR>);
 
 TEST(DecisionBAR2Test, TheNamesAndTipsDiffer) {
   HeadlessSite site;

@@ -177,6 +177,24 @@ TEST_F(DecisionPlayBehaviourTest, AtAButtonNoShiftStateIsTested) {
   }
 }
 
+TEST_F(DecisionPlayBehaviourTest, AtTheOtherElementsLettersGoToTheBoxsMap) {
+  Widget* const others[] = {&Children().cmdOptions, &Children().cmdHoleCard, &Children().cmdTensRatio,
+                            &TheAdviceButton()};
+  for (Widget* focused : others) {
+    focused->SetFocus();
+    ASSERT_EQ(robot_->Focus(), focused);
+    for (const DecisionPlay& play : DecisionPlays) {
+      EXPECT_EQ(Press(play.letter - 'A' + 'a'), Texts{EventOf(play)}) << focused->Name() << " " << play.name;
+      EXPECT_EQ(Press(play.letter, ShiftKey), Texts{EventOf(play)}) << focused->Name() << " " << play.name;
+      EXPECT_EQ(Press(play.letter, CtrlKey), Texts{}) << focused->Name() << " " << play.name;
+      ButtonOf(play).Enabled(false);
+      EXPECT_EQ(Press(play.letter), Texts{EventOf(play)}) << "disabled: " << focused->Name() << " " << play.name;
+      ButtonOf(play).Enabled(true);
+    }
+    EXPECT_EQ(Press('X'), Texts{});
+  }
+}
+
 TEST_F(DecisionPlayBehaviourTest, PWithStandFocusedAndSplitDisabledDoesNothing) {
   Children().SplitButton.Enabled(false);
   Children().StandButton.SetFocus();

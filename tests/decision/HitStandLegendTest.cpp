@@ -68,7 +68,8 @@ TEST_F(HitStandLegendTest, LettersDecideWhateverShiftAndAltButNotWithCtrl) {
         EXPECT_EQ(recorder_.Take(), Texts{row.event}) << code << " shift " << shift;
       }
     }
-    for (const std::int16_t shift : std::initializer_list<std::int16_t>{2, 3, 6, 7}) site_.PressKey({row.letter, shift});
+    for (const std::int16_t shift : std::initializer_list<std::int16_t>{2, 3, 6, 7})
+      site_.PressKey({row.letter, shift});
     EXPECT_EQ(recorder_.Take(), Texts{}) << row.letter;
   }
   for (const std::int32_t code : {std::int32_t{'X'}, std::int32_t{'1'}, std::int32_t{FunctionKey1}}) {

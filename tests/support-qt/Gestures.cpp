@@ -3,10 +3,15 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QLayout>
 #include <QMenu>
 #include <QPointer>
 #include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 #include <QWindow>
+#include <functional>
 #include <vector>
 
 #include "tactix-qt/MenuPopUp.h"
@@ -48,6 +53,20 @@ bool OpenList(QComboBox& box) {
 
 void PressIn(QWidget& popUp, Qt::Key key) { PressKey(*popUp.window(), key); }
 
+QToolButton& MoreButtonOf(const QToolBar& bar) {
+  return *bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+}
+
+/// Does something in the menu at a toolbar's end once it is open: a press that opens it comes back when it has closed.
+void InMenuAtTheEnd(const QToolBar& bar, const std::function<void(QMenu&)>& action) {
+  QToolButton& more = MoreButtonOf(bar);
+  QTimer::singleShot(0, &more, [menu = QPointer<QMenu>(more.menu()), action] {
+    if (!menu || !menu->isVisible()) return;
+    action(*menu);
+    if (menu && menu->isVisible()) LeaveMenu(*menu);
+  });
+}
+
 }  // namespace
 
 QWidget* NativeOf(const Widget& widget) {
@@ -72,7 +91,14 @@ void Drag(QWidget& window, const QPoint& from, const QPoint& to, std::int16_t bu
   LastPlace() = window.mapToGlobal(to);
   QTest::mousePress(handle, ButtonOf(button), ModifiersOf(shift), from);
   if (handle && to != from) QTest::mouseEvent(QTest::MouseMove, handle, Qt::NoButton, ModifiersOf(shift), to);
-  if (handle) QTest::mouseRelease(handle, ButtonOf(button), ModifiersOf(shift), to);
+  if (handle) {
+    QTest::mouseRelease(handle, ButtonOf(button), ModifiersOf(shift), to);
+  } else {
+    // The window has gone under the press. The button goes up all the same, or the next press would be a second one.
+    QWindow elsewhere;
+    elsewhere.resize(2, 2);
+    QTest::mouseRelease(&elsewhere, ButtonOf(button), ModifiersOf(shift), QPoint(1, 1));
+  }
 }
 
 void ClickAt(QWidget& window, const QPoint& place, std::int16_t button, std::int16_t shift) {
@@ -119,6 +145,37 @@ void PickByReturn(QComboBox& box, int row) {
   PressIn(*box.view(), Qt::Key_Home);
   for (int i = 0; i < row; ++i) PressIn(*box.view(), Qt::Key_Down);
   PressIn(*box.view(), Qt::Key_Return);
+}
+
+void ClickOnBar(QToolBar& bar, QAction& action) {
+  bar.layout()->activate();
+  const QWidget* const native = bar.widgetForAction(&action);
+  if (const auto place = native ? ReachablePlace(*native) : std::nullopt) return ClickAt(*bar.window(), *place);
+  const QToolButton& more = MoreButtonOf(bar);
+  const auto place = action.isVisible() ? ReachablePlace(more) : std::nullopt;
+  if (!place || !more.isEnabled()) return;
+  InMenuAtTheEnd(bar, [&action](QMenu& menu) {
+    const QPoint item = menu.actionGeometry(&action).center();
+    MoveTo(menu, item);
+    ClickAt(menu, item);
+  });
+  ClickAt(*bar.window(), *place);
+}
+
+void PressOnBar(QToolBar& bar, QAction& action) {
+  QWidget* native = bar.widgetForAction(&action);
+  if (!action.isVisible() || !native) return;
+  bar.layout()->activate();
+  if (!native->isVisible()) {
+    native = &MoreButtonOf(bar);
+    InMenuAtTheEnd(bar, [&action](QMenu& menu) {
+      for (int i = 0; i < menu.actions().size() && menu.activeAction() != &action; ++i) PressIn(menu, Qt::Key_Down);
+      if (menu.activeAction() == &action) PressIn(menu, Qt::Key_Return);
+    });
+  }
+  if (!native->isVisible() || !native->isEnabled()) return;
+  native->setFocus(Qt::TabFocusReason);
+  PressKey(*bar.window(), Qt::Key_Space);
 }
 
 QMenu* OpenMenuOf(const Menu& menu) {

@@ -7,8 +7,10 @@
 #include "tactix/platform/widgets/Menu.h"
 #include "tactix/platform/widgets/Widget.h"
 
+class QAction;
 class QComboBox;
 class QMenu;
+class QToolBar;
 class QWidget;
 
 namespace tactix::tests {
@@ -29,6 +31,12 @@ void PressKey(QWidget& window, std::int32_t code, std::int16_t shift = 0);
 /// Open the list and pick a row there; close it again without a pick when there is no such row.
 void PickByMouse(QComboBox& box, int row);
 void PickByReturn(QComboBox& box, int row);
+
+/// Clicks a toolbar's button: on the bar, or in the menu at its end where it has no room. Does nothing where neither
+/// can be reached.
+void ClickOnBar(QToolBar& bar, QAction& action);
+/// The same by keyboard, which takes the focus there. Its window must be active.
+void PressOnBar(QToolBar& bar, QAction& action);
 
 /// The open pop-up that draws a menu, or null.
 QMenu* OpenMenuOf(const Menu& menu);

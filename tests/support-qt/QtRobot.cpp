@@ -12,6 +12,7 @@
 #include "tactix-qt/ControlWidget.h"
 #include "tactix-qt/MenuPopUp.h"
 #include "tactix-qt/peers/ListBoxPeer.h"
+#include "tactix-qt/peers/ToolBarPeer.h"
 #include "tests/support-qt/Gestures.h"
 #include "tests/support/Robot.h"
 
@@ -47,15 +48,18 @@ class QtRobot final : public Robot, private QObject {
 
   void Show(Control& control) override {
     int top = 1;
+    int right = 900;
     for (const QPointer<qt::ControlWidget>& host : hosts_) {
       if (!host) continue;
       if (&host->ItsSite() == &control.ItsSite().Outermost()) {
         host->Host(control);
         host->move(0, top);
       }
-      if (host->Hosted()) top = std::max(top, host->geometry().bottom() + 1);
+      if (!host->Hosted()) continue;
+      top = std::max(top, host->geometry().bottom() + 1);
+      right = std::max(right, host->geometry().right() + 1);
     }
-    window_->resize(std::max(window_->width(), 900), std::max(top, 400));
+    window_->resize(std::max(window_->width(), right), std::max(top, 400));
     for (const QPointer<qt::ControlWidget>& host : hosts_) {
       if (host && host->Hosted() == &control && control.Extender().Visible()) host->show();
     }
@@ -72,6 +76,34 @@ class QtRobot final : public Robot, private QObject {
 
   void Click(PushButton& button) override {
     if (const auto place = PlaceOf(button)) ClickAt(*window_, *place);
+    Settle();
+  }
+
+  void Click(ToolButton& button) override {
+    auto* const bar = qobject_cast<QToolBar*>(NativeOf(button.Bar()));
+    QAction* const action = qt::ToolBarPeer::ActionOf(button);
+    if (bar && action) ClickOnBar(*bar, *action);
+    Settle();
+  }
+
+  void Click(Label& label) override {
+    if (const auto place = PlaceOf(label)) ClickAt(*window_, *place);
+    Settle();
+  }
+
+  void PressByKey(ToolButton& button) override {
+    auto* const bar = qobject_cast<QToolBar*>(NativeOf(button.Bar()));
+    QAction* const action = qt::ToolBarPeer::ActionOf(button);
+    Activate();
+    if (bar && action && bar->isVisible()) PressOnBar(*bar, *action);
+    Settle();
+  }
+
+  void MouseDown(ToolButton& button, std::int16_t mouseButton, std::int16_t shift) override {
+    const QWidget* const native = qt::ToolBarPeer::NativeOf(button);
+    if (const auto place = native ? ReachablePlace(*native) : std::nullopt) {
+      Drag(*window_, *place, mouseButton == LeftButton ? QPoint(window_->width() - 1, 0) : *place, mouseButton, shift);
+    }
     Settle();
   }
 
@@ -157,6 +189,27 @@ class QtRobot final : public Robot, private QObject {
   bool SeesEnabled(const Widget& widget) const override {
     const QWidget* const native = NativeOf(widget);
     return native && native->isEnabled();
+  }
+
+  bool SeesShown(const ToolButton& button) const override {
+    // Also where there is no room for it: in the menu at the bar's end.
+    const QAction* const action = qt::ToolBarPeer::ActionOf(button);
+    return action && action->isVisible() && SeesShown(button.Bar());
+  }
+
+  std::string SeesText(const ToolButton& button) const override {
+    const QToolButton* const native = qt::ToolBarPeer::NativeOf(button);
+    return native ? native->text().toStdString() : std::string();
+  }
+
+  bool SeesEnabled(const ToolButton& button) const override {
+    const QToolButton* const native = qt::ToolBarPeer::NativeOf(button);
+    return native && native->isEnabled();
+  }
+
+  bool SeesPressed(const ToolButton& button) const override {
+    const QToolButton* const native = qt::ToolBarPeer::NativeOf(button);
+    return native && native->isChecked();
   }
 
   bool SeesChecked(Menu& menu, const MenuEntry& entry) const override {

@@ -4,9 +4,8 @@ namespace tactix::tests {
 
 const std::vector<CatalogueEntry>& Catalogue() {
   static const std::vector<CatalogueEntry> entries = {
-      StrategyListEntry(),
-      AdviceButtonEntry(),
-      DecisionEntry(),
+      StrategyListEntry(), AdviceButtonEntry(), DecisionEntry(),
+      DecisionBAREntry(),  DecisionBAR2Entry(), HitStandLegendEntry(),
   };
   return entries;
 }

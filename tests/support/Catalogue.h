@@ -21,6 +21,9 @@ namespace tactix::tests {
 /// Whether a property goes into the container's property bag, and comes back from it.
 enum class Saved { No, Yes, WrittenOnly };
 
+/// What becomes of a property that its bag fails to write: the next one is written, or the host gets the error.
+enum class FailedWrite { PassedOver, Reported };
+
 /// A property of a control as documented. Whether it can be read and written, the control's property table says.
 struct CataloguedProperty {
   std::string name;
@@ -31,8 +34,14 @@ struct CataloguedProperty {
   Saved saved = Saved::No;
   /// What it reads after the other value was written, where that is something else.
   std::optional<Variant> reads = std::nullopt;
+  /// Its name in saved forms and notices, where that is another one.
+  std::optional<std::string> savedAs = std::nullopt;
+  /// What is saved after the other value was written, where that is not what it reads.
+  std::optional<Variant> saves = std::nullopt;
 
   const Variant& ReadsAfterWriting() const { return reads ? *reads : other; }
+  const std::string& SavedName() const { return savedAs ? *savedAs : name; }
+  const Variant& SavedAfterWriting() const { return saves ? *saves : ReadsAfterWriting(); }
 };
 
 /// One event of a control that exists.
@@ -59,6 +68,9 @@ struct CatalogueEntry {
   /// One for each event at least, except those that the control declares and never raises.
   std::vector<Raiser> raisers;
   std::vector<std::string> neverRaised;
+  FailedWrite failedWrite = FailedWrite::PassedOver;
+  /// Names that a group of elements shares.
+  std::vector<std::string> groupNames;
 };
 
 /// All controls. A new one gets an entry function in the file of its room, and a line in Catalogue.cpp.
@@ -68,6 +80,9 @@ const std::vector<CatalogueEntry>& Catalogue();
 CatalogueEntry StrategyListEntry();
 CatalogueEntry AdviceButtonEntry();
 CatalogueEntry DecisionEntry();
+CatalogueEntry DecisionBAREntry();
+CatalogueEntry DecisionBAR2Entry();
+CatalogueEntry HitStandLegendEntry();
 
 // For the entry functions.
 

@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "tactix/platform/headless/HeadlessSite.h"
+#include "tactix/platform/widgets/ToolBar.h"
 #include "tests/support/Robot.h"
 
 namespace tactix::tests {
@@ -27,11 +28,21 @@ class HeadlessRobot final : public Robot {
 
   void Click(PushButton& button) override { button.Click(); }
 
+  void Click(ToolButton& button) override { button.Click(); }
+
+  void Click(Label& label) override { label.Click(); }
+
+  void PressByKey(ToolButton& button) override { button.Click(); }
+
   void MouseDown(Widget& widget, std::int16_t button, std::int16_t shift) override {
     // The mouse has to get there first.
     const Weak<Widget> target(widget);
     MouseMove(widget, shift);
     if (target) widget.MouseDown({button, shift, widget.Width() / 2, widget.Height() / 2});
+  }
+
+  void MouseDown(ToolButton& button, std::int16_t mouseButton, std::int16_t shift) override {
+    if (button.Visible()) MouseDown(button.Bar(), mouseButton, shift);
   }
 
   void MouseMove(Widget& widget, std::int16_t shift) override {
@@ -99,6 +110,14 @@ class HeadlessRobot final : public Robot {
     }
     return true;
   }
+
+  bool SeesShown(const ToolButton& button) const override { return button.Visible() && SeesShown(button.Bar()); }
+
+  std::string SeesText(const ToolButton& button) const override { return button.Caption(); }
+
+  bool SeesEnabled(const ToolButton& button) const override { return button.Enabled() && SeesEnabled(button.Bar()); }
+
+  bool SeesPressed(const ToolButton& button) const override { return button.Value(); }
 
   bool SeesChecked(Menu&, const MenuEntry& entry) const override { return entry.Checked(); }
 

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -19,6 +20,7 @@ namespace tactix::tests {
 template <class C>
 class RandomHost {
  public:
+  using ControlType = C;
   struct Operation {
     const char* name;
     std::uint32_t weight;
@@ -103,6 +105,33 @@ class RandomHost {
   std::string wrong_;
   int depth_ = 0;
 };
+
+/// Runs 100,000 operations on hosts of one kind; after each, `check` answers what is wrong, if anything.
+template <class Host>
+testing::AssertionResult RunAtRandom(const std::vector<typename Host::Operation>& operations,
+                                     void (*prepare)(RandomHost<typename Host::ControlType>&,
+                                                     typename Host::ControlType&),
+                                     std::string (*check)(Host&)) {
+  RandomSequence<Host> sequence([&] { return std::make_unique<Host>(operations, prepare); });
+  for (const auto& operation : operations) {
+    sequence.Add(operation.name, operation.weight,
+                 [operation](Host& host, SequenceRandom& random) { host.Run(operation, random); });
+  }
+  sequence.Always(check);
+  return sequence.Run(20240501, 100'000);
+}
+
+/// Lets handlers of all events of a control run random operations.
+template <class C>
+void InterfereFromHandlers(RandomHost<C>& host, C& control) {
+  const auto interfere = [&host](auto&&...) { host.MaybeInterfere(8); };
+  std::apply([&](auto&... each) { (each.Connect(interfere), ...); }, control.Events.All());
+}
+
+inline MouseState AnyMouse(SequenceRandom& random) {
+  const auto bits = [&] { return static_cast<std::int16_t>(random.Below(8)); };
+  return {bits(), bits(), 10, 10};
+}
 
 /// A value of a random type: what a late-bound property of a host's may hold.
 inline Variant AnyValue(SequenceRandom& random) {

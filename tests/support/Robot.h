@@ -9,9 +9,11 @@
 #include "tactix/platform/Control.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Site.h"
+#include "tactix/platform/widgets/Label.h"
 #include "tactix/platform/widgets/ListBox.h"
 #include "tactix/platform/widgets/Menu.h"
 #include "tactix/platform/widgets/PushButton.h"
+#include "tactix/platform/widgets/ToolButton.h"
 #include "tactix/platform/widgets/Widget.h"
 
 namespace tactix::tests {
@@ -36,7 +38,13 @@ class Robot {
 
   // What the user does, at a widget that the front end draws. A widget that a user cannot reach does not react.
   virtual void Click(PushButton& button) = 0;
+  virtual void Click(ToolButton& button) = 0;
+  virtual void Click(Label& label) = 0;
+  /// Gives a toolbar's button the focus and presses it there.
+  virtual void PressByKey(ToolButton& button) = 0;
   virtual void MouseDown(Widget& widget, std::int16_t button, std::int16_t shift) = 0;
+  /// A press on a toolbar's button is one on its bar, too.
+  virtual void MouseDown(ToolButton& button, std::int16_t mouseButton, std::int16_t shift) = 0;
   virtual void MouseMove(Widget& widget, std::int16_t shift) = 0;
   /// A key for whatever has the focus in the window: access keys, the default button and key maps included.
   virtual void PressKey(std::int32_t code, std::int16_t shift = 0) = 0;
@@ -67,6 +75,10 @@ class Robot {
   virtual bool SeesShown(const Widget& widget) const = 0;
   virtual std::string SeesText(const Widget& widget) const = 0;
   virtual bool SeesEnabled(const Widget& widget) const = 0;
+  virtual bool SeesShown(const ToolButton& button) const = 0;
+  virtual std::string SeesText(const ToolButton& button) const = 0;
+  virtual bool SeesEnabled(const ToolButton& button) const = 0;
+  virtual bool SeesPressed(const ToolButton& button) const = 0;
   /// True for a checked entry of the open menu, as drawn.
   virtual bool SeesChecked(Menu& menu, const MenuEntry& entry) const = 0;
 };

@@ -30,6 +30,8 @@ class TACTIX_EXPORT ToolButton final : public Trackable {
  public:
   ToolButton(ToolBar& bar, const ToolButtonDesign& design);
 
+  /// The toolbar it is on.
+  ToolBar& Bar() const { return bar_; }
   /// Its identity: compared with case.
   const std::string& Key() const { return key_; }
   const std::string& Caption() const { return caption_; }

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QAction>
+#include <QPointer>
+#include <QToolBar>
+#include <QToolButton>
+#include <vector>
+
+#include "tactix-qt/Export.h"
+#include "tactix-qt/peers/Peer.h"
+#include "tactix/platform/widgets/ToolBar.h"
+
+namespace tactix::qt {
+
+/// A toolbar: an action for each of its buttons, captions below the pictures, or beside them in a column. Pictures and
+/// letters shrink where the bar is too thin for them; buttons beyond its length go to a menu at its end.
+///
+/// Tab enters and leaves it, the arrow keys, Home and End move inside, Space and Enter press. It has the focus as a
+/// whole as far as its control is concerned.
+class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> {
+ public:
+  ToolBarPeer(ToolBar& bar, QtSite& site, QWidget* parent);
+
+  void ButtonChanged(ToolBar& bar, ToolButton& button) override;
+
+  /// What draws a button; null where nothing does. The native button is hidden where it has no room.
+  static QAction* ActionOf(const ToolButton& button);
+  static QToolButton* NativeOf(const ToolButton& button);
+
+ protected:
+  void Update(Aspect aspect) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void Add(const ToolButton& button);
+  void ShowState(QAction& action, const ToolButton& button);
+  void ShowPictures();
+  void ShowMore();
+  void ShowOrientation();
+  void Fit();
+  bool FitsWith(const QFont& letters);
+  void Click(std::size_t index);
+  bool KeyPressed(QToolButton& native, QKeyEvent& event);
+  QToolButton* NativeOf(QAction& action) const;
+  /// Where the keyboard can go, in order.
+  std::vector<QToolButton*> Stops() const;
+  /// The stop behind one, or before it where it is the last; null when it is alone.
+  QToolButton* Neighbour(const QToolButton& native) const;
+
+  std::vector<QAction*> actions_;
+  QToolButton* more_;
+  QPointer<QToolButton> lastFocused_;
+  bool fitting_ = false;
+};
+
+}  // namespace tactix::qt
