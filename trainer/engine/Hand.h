@@ -23,6 +23,8 @@ class Hand {
   [[nodiscard]] bool IsSoft() const { return hasAce_ && hardTotal_ + 10 <= 21; }
   /// The best total: one ace as 11 if the hand is soft.
   [[nodiscard]] int Total() const { return IsSoft() ? hardTotal_ + 10 : hardTotal_; }
+  /// A hard total from 12 to 16: one card may take it over 21.
+  [[nodiscard]] bool IsStiff() const { return !IsSoft() && hardTotal_ >= 12 && hardTotal_ <= 16; }
   [[nodiscard]] bool IsBust() const { return hardTotal_ > 21; }
   /// 21 with the first two cards of a hand that was not split.
   [[nodiscard]] bool IsBlackjack() const { return cards_.size() == 2 && Total() == 21 && !isAfterSplit_; }

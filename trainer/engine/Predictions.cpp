@@ -26,6 +26,14 @@ bool Predictions::PredictTensRatio(bool high, int decks, std::span<const Card> s
 void Predictions::Forget() {
   hitCard_.reset();
   holeCard_.reset();
+  dealerIsStrong_.reset();
+}
+
+std::optional<bool> Predictions::SeeDealerHand(const Hand& firstTwo) {
+  if (!dealerIsStrong_) return std::nullopt;
+  const bool right = *dealerIsStrong_ != firstTwo.IsStiff();
+  dealerIsStrong_.reset();
+  return Count(right);
 }
 
 std::optional<bool> Predictions::See(std::optional<CardRange>& predicted, Rank rank) {

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "trainer/engine/Card.h"
+#include "trainer/engine/Hand.h"
 
 namespace trainer::engine {
 
@@ -27,10 +28,13 @@ class Predictions {
   /// A new prediction takes the place of the one before; none takes it back.
   void PredictHitCard(std::optional<CardRange> range) { hitCard_ = range; }
   void PredictHoleCard(std::optional<CardRange> range) { holeCard_ = range; }
+  void PredictDealerHand(std::optional<bool> strong) { dealerIsStrong_ = strong; }
 
   /// The hit card, or the hole card, has been seen; true or false if it was predicted.
   std::optional<bool> SeeHitCard(Rank rank) { return See(hitCard_, rank); }
   std::optional<bool> SeeHoleCard(Rank rank) { return See(holeCard_, rank); }
+  /// The same for the dealer's first two cards: weak if they are stiff, else strong.
+  std::optional<bool> SeeDealerHand(const Hand& firstTwo);
 
   /// Whether tens are over-represented among the cards not seen yet, judged at once.
   bool PredictTensRatio(bool high, int decks, std::span<const Card> seen);
@@ -47,6 +51,7 @@ class Predictions {
 
   std::optional<CardRange> hitCard_;
   std::optional<CardRange> holeCard_;
+  std::optional<bool> dealerIsStrong_;
   int made_ = 0;
   int right_ = 0;
 };

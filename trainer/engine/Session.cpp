@@ -49,13 +49,15 @@ std::optional<Judgement> Session::Decide(Decision decision) {
   }
   ++tally_.decisions;
   if (judgement.IsRight()) ++tally_.correct;
-  judgement.holeCardPrediction = SeeHoleCardIfOver();
+  if (IsOver()) SeeTheDealersCards(judgement);
   CountIfOver();
   return judgement;
 }
 
-std::optional<bool> Session::SeeHoleCardIfOver() {
-  return round_->IsOver() ? predictions_.SeeHoleCard(round_->DealerHand().Cards()[1].rank) : std::nullopt;
+void Session::SeeTheDealersCards(Judgement& judgement) {
+  const auto cards = round_->DealerHand().Cards();
+  judgement.holeCardPrediction = predictions_.SeeHoleCard(cards[1].rank);
+  judgement.dealerPrediction = predictions_.SeeDealerHand(Hand({cards[0], cards[1]}));
 }
 
 void Session::CountIfOver() {
@@ -71,7 +73,7 @@ void Session::Follow(std::shared_ptr<const Strategy> strategy) {
   strategy_ = std::move(strategy);
 }
 
-std::optional<bool> Session::PredictTensRatio(bool high) {
+std::vector<Card> Session::Seen() const {
   const auto dealt = shoe_.Dealt();
   std::vector<Card> seen(dealt.begin(), dealt.end());
   if (!IsOver()) {
@@ -79,6 +81,11 @@ std::optional<bool> Session::PredictTensRatio(bool high) {
     const auto hole = std::find(seen.begin(), seen.end(), round_->DealerHand().Cards()[1]);
     if (hole != seen.end()) seen.erase(hole);
   }
+  return seen;
+}
+
+std::optional<bool> Session::PredictTensRatio(bool high) {
+  const std::vector<Card> seen = Seen();
   if (seen.size() >= static_cast<std::size_t>(rules_.decks) * CardsPerDeck) return std::nullopt;
   return predictions_.PredictTensRatio(high, rules_.decks, seen);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "trainer/engine/Predictions.h"
 #include "trainer/engine/Round.h"
@@ -16,8 +17,9 @@ namespace trainer::engine {
 struct Judgement {
   Decision advised;
   Decision chosen;
-  std::optional<bool> hitCardPrediction;   ///< right or wrong, where one was made and a card came
-  std::optional<bool> holeCardPrediction;  ///< the same for the hole card, once the round is over
+  std::optional<bool> hitCardPrediction;                ///< right or wrong, where one was made and a card came
+  std::optional<bool> holeCardPrediction;               ///< the same for the hole card, once the round is over
+  std::optional<bool> dealerPrediction = std::nullopt;  ///< the same for the dealer's first two cards
 
   [[nodiscard]] bool IsRight() const { return advised == chosen; }
 };
@@ -66,13 +68,16 @@ class Session {
   /// counted, when the player has seen them all.
   std::optional<bool> PredictTensRatio(bool high);
 
+  /// The cards that the player has seen since the shuffle.
+  [[nodiscard]] std::vector<Card> Seen() const;
+
   [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
   [[nodiscard]] const Rules& TheRules() const { return rules_; }
   [[nodiscard]] const Shoe& TheShoe() const { return shoe_; }
 
  private:
   void CountIfOver();
-  std::optional<bool> SeeHoleCardIfOver();
+  void SeeTheDealersCards(Judgement& judgement);
 
   Rules rules_;
   Money bet_;

@@ -4,14 +4,10 @@
 
 namespace trainer::screens {
 
-namespace {
-
-QString PredictionText(const QString& card, std::optional<bool> right) {
+QString PredictionText(const QString& what, std::optional<bool> right) {
   if (!right) return {};
-  return QStringLiteral(" %1 predicted %2.").arg(card, *right ? QStringLiteral("right") : QStringLiteral("wrong"));
+  return QStringLiteral(" %1 predicted %2.").arg(what, *right ? QStringLiteral("right") : QStringLiteral("wrong"));
 }
-
-}  // namespace
 
 QString PlayText(engine::Decision play, const engine::Hand& hand, engine::Rank upCard) {
   const QString join = play == engine::Decision::Stand ? QStringLiteral(" on ") : QStringLiteral(" ");
@@ -27,6 +23,7 @@ QString JudgementText(const engine::Judgement& judgement, const engine::Hand& ha
   text += QStringLiteral(": ") + PlayText(judgement.advised, hand, upCard) + QLatin1Char('.');
   text += PredictionText(QStringLiteral("Hit card"), judgement.hitCardPrediction);
   text += PredictionText(QStringLiteral("Hole card"), judgement.holeCardPrediction);
+  text += PredictionText(QStringLiteral("Dealer's hand"), judgement.dealerPrediction);
   return text;
 }
 

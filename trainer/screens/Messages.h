@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <string_view>
 
 #include "trainer/engine/Card.h"
@@ -21,6 +22,9 @@ namespace trainer::screens {
 /// predicted wrong." A strategy is named unless it is empty.
 [[nodiscard]] QString JudgementText(const engine::Judgement& judgement, const engine::Hand& hand, engine::Rank upCard,
                                     const QString& strategy);
+
+/// " Hole card predicted right.", or nothing where nothing was predicted.
+[[nodiscard]] QString PredictionText(const QString& what, std::optional<bool> right);
 
 /// How a round went that was over with the deal. Empty where there was something to decide.
 [[nodiscard]] QString DealtRoundText(const engine::Round& round, const engine::Rules& rules);

@@ -1,8 +1,11 @@
 #include "trainer/screens/TrainerWindow.h"
 
+#include <QActionGroup>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenuBar>
 #include <QVBoxLayout>
+#include <array>
 
 #include "trainer/engine/Words.h"
 #include "trainer/screens/HandBlock.h"
@@ -16,8 +19,7 @@ namespace trainer::screens {
 
 namespace {
 
-constexpr QSize FirstSize(900, 780);
-constexpr int NoAdvice = 0;
+constexpr QSize FirstSize(1000, 780);
 /// A little less than an advised button flashes.
 constexpr qint64 FlashMilliseconds = 1500;
 
@@ -33,7 +35,7 @@ QString RangeText(engine::CardRange range) {
   return QStringLiteral("high");
 }
 
-QString PredictionText(const QString& card, std::optional<engine::CardRange> range) {
+QString GuessText(const QString& card, std::optional<engine::CardRange> range) {
   return range ? QStringLiteral("Your prediction: the %1 is %2.").arg(card, RangeText(*range))
                : QStringLiteral("No prediction of the %1.").arg(card);
 }
@@ -47,46 +49,66 @@ TrainerWindow::TrainerWindow(engine::Session session,
       catalogue_(std::move(catalogue)),
       table_(new TableView(this)),
       score_(new ScoreBar(this)),
-      box_(new tactix::qt::Decision(this)) {
+      box_(new BoxInput(this)),
+      toolBar_(new ToolBarInput(this)),
+      input_(box_) {
   setWindowTitle(QStringLiteral("Tactix Trainer"));
   auto* const central = new QWidget(this);
   auto* const layout = new QVBoxLayout(central);
   layout->addWidget(table_, 1);
   layout->addWidget(score_);
   layout->addWidget(box_);
+  layout->addWidget(toolBar_);
   setCentralWidget(central);
   resize(FirstSize);
 
-  box_->DecisionBoxType(tactix::qt::Decision::forUseWithBlackjackTable);
-  box_->AllowAdvice(tactix::qt::Decision::LargeButton);
-  box_->ToolTipMessage(QStringLiteral("basic strategy"));
+  toolBar_->hide();
+  box_->NameStrategy(QStringLiteral("basic strategy"));
   box_->setFocus();
-  Connect();
+  MakeViewMenu();
+  Connect(*box_);
+  Connect(*toolBar_);
   ShowScore();
 }
 
-void TrainerWindow::Connect() {
-  using engine::CardRange;
-  using tactix::qt::Decision;
-  connect(box_, &Decision::PlayerHits, this, [this] { Decide(engine::Decision::Hit); });
-  connect(box_, &Decision::PlayerStands, this, [this] { Decide(engine::Decision::Stand); });
-  connect(box_, &Decision::PlayerSplits, this, [this] { Decide(engine::Decision::Split); });
-  connect(box_, &Decision::PlayerDoublesDown, this, [this] { Decide(engine::Decision::Double); });
-  connect(box_, &Decision::PlayerSurrenders, this, [this] { Decide(engine::Decision::Surrender); });
-  connect(box_, &Decision::AdviceRequested, this, [this] { SayAdvice(); });
-  connect(box_, &Decision::EvaluationStrategySelected, this, [this](int number) { FollowStrategy(number); });
-  connect(box_, &Decision::BurnACardRequested, this, [this] { Burn(); });
-  connect(box_, &Decision::PlugHandCardsInClipboard, this, [this] { CopyHand(); });
-  connect(box_, &Decision::HitCardHiPrediction, this, [this] { PredictHitCard(CardRange::High); });
-  connect(box_, &Decision::HitCardLoPrediction, this, [this] { PredictHitCard(CardRange::Low); });
-  connect(box_, &Decision::HitCardNeutralPrediction, this, [this] { PredictHitCard(CardRange::Mid); });
-  connect(box_, &Decision::HitCardUnknownPrediction, this, [this] { PredictHitCard(std::nullopt); });
-  connect(box_, &Decision::WholeCardHiPrediction, this, [this] { PredictHoleCard(CardRange::High); });
-  connect(box_, &Decision::WholeCardLoPrediction, this, [this] { PredictHoleCard(CardRange::Low); });
-  connect(box_, &Decision::WholeCardNeutralPrediction, this, [this] { PredictHoleCard(CardRange::Mid); });
-  connect(box_, &Decision::WholeCardUnknownPrediction, this, [this] { PredictHoleCard(std::nullopt); });
-  connect(box_, &Decision::TensRatioHiPrediction, this, [this] { PredictTensRatio(true); });
-  connect(box_, &Decision::TensRatioLoPrediction, this, [this] { PredictTensRatio(false); });
+void TrainerWindow::MakeViewMenu() {
+  struct Row {
+    const char* text;
+    InputKind kind;
+  };
+  constexpr std::array<Row, 3> rows = {{{"Decision &box", InputKind::Box},
+                                        {"Decision &toolbar", InputKind::ToolBar},
+                                        {"Toolbar with &legend", InputKind::ToolBarAndLegend}}};
+  QMenu* const menu = menuBar()->addMenu(QStringLiteral("&View"));
+  auto* const group = new QActionGroup(this);
+  for (const Row& row : rows) {
+    QAction* const action = menu->addAction(QLatin1String(row.text));
+    action->setCheckable(true);
+    action->setChecked(row.kind == InputKind::Box);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [this, kind = row.kind] { PlayWith(kind); });
+  }
+}
+
+void TrainerWindow::PlayWith(InputKind kind) {
+  input_ = kind == InputKind::Box ? static_cast<DecisionInput*>(box_) : toolBar_;
+  toolBar_->ShowLegend(kind == InputKind::ToolBarAndLegend);
+  box_->setVisible(input_ == box_);
+  toolBar_->setVisible(input_ == toolBar_);
+  input_->setFocus();
+  if (session_.HasRound()) Expect();
+}
+
+void TrainerWindow::Connect(const DecisionInput& input) {
+  connect(&input, &DecisionInput::Played, this, &TrainerWindow::Decide);
+  connect(&input, &DecisionInput::Advised, this, &TrainerWindow::SayAdvice);
+  connect(&input, &DecisionInput::StrategyPicked, this, &TrainerWindow::FollowStrategy);
+  connect(&input, &DecisionInput::BurnAsked, this, &TrainerWindow::Burn);
+  connect(&input, &DecisionInput::CopyAsked, this, &TrainerWindow::CopyHand);
+  connect(&input, &DecisionInput::StatisticsAsked, this, &TrainerWindow::ShowStatistics);
+  connect(&input, &DecisionInput::HitCardPredicted, this, &TrainerWindow::PredictHitCard);
+  connect(&input, &DecisionInput::HoleCardPredicted, this, &TrainerWindow::PredictHoleCard);
+  connect(&input, &DecisionInput::TensRatioPredicted, this, &TrainerWindow::PredictTensRatio);
 }
 
 void TrainerWindow::Deal() {
@@ -100,33 +122,33 @@ void TrainerWindow::Deal() {
 /// Waits for a decision, or between rounds for any play.
 void TrainerWindow::Expect() {
   sinceHandWasShown_.start();
-  session_.IsOver() ? box_->GiveAdvice(NoAdvice) : Ask();
+  session_.IsOver() ? input_->Rest() : Ask();
 }
 
 void TrainerWindow::Ask() {
   FillBlock(session_, block_);
-  box_->SetupTheDecisionBox(block_);
+  input_->Ask(block_);
 }
 
 void TrainerWindow::Decide(engine::Decision decision) {
   if (session_.IsOver()) return Deal();
   const engine::Round& round = session_.CurrentRound();
+  if (!round.Legal().Allows(decision)) {
+    ShowTable(ThenGoOn(ToQt(engine::WordFor(decision)) + QStringLiteral(" is not possible with this hand.")));
+    return Ask();
+  }
   const engine::HandPlace place = round.ActivePlace();
   DecisionRecord record;
   record.round = session_.CurrentTally().hands + 1;
   record.splitHand = round.HandsOf(place.seat).size() > 1 ? static_cast<int>(place.hand) + 1 : 0;
   record.cards = round.ActiveHand().hand;
   record.upCard = round.UpCard();
-  const auto judgement = session_.Decide(decision);
-  if (!judgement) {
-    ShowTable(ThenGoOn(ToQt(engine::WordFor(decision)) + QStringLiteral(" is not possible with this hand.")));
-    return Ask();
-  }
-  record.judgement = *judgement;
+  const QString tens = TakeGuesses(input_->CollectGuesses());
+  record.judgement = session_.Decide(decision).value();
 
-  QString message = JudgementText(*judgement, record.cards, record.upCard, strategy_);
+  QString message = JudgementText(record.judgement, record.cards, record.upCard, strategy_) + tens;
   if (session_.IsOver()) message = ThenGoOn(message);
-  ShowTable(message, judgement->IsRight() ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
+  ShowTable(message, record.judgement.IsRight() ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
   ShowScore();
   Expect();
   Q_EMIT Judged(record);
@@ -151,14 +173,14 @@ void TrainerWindow::PredictHitCard(std::optional<engine::CardRange> range) {
   // Between rounds the press belongs to a click that deals.
   if (session_.IsOver()) return;
   session_.Predictions().PredictHitCard(range);
-  ShowTable(ThenGoOn(PredictionText(QStringLiteral("hit card"), range)));
+  ShowTable(ThenGoOn(GuessText(QStringLiteral("hit card"), range)));
 }
 
 void TrainerWindow::PredictHoleCard(std::optional<engine::CardRange> range) {
   if (!session_.HasRound()) return;
   if (session_.IsOver()) return ShowTable(ThenGoOn(QStringLiteral("The hole card is open already.")));
   session_.Predictions().PredictHoleCard(range);
-  ShowTable(ThenGoOn(PredictionText(QStringLiteral("hole card"), range)));
+  ShowTable(ThenGoOn(GuessText(QStringLiteral("hole card"), range)));
 }
 
 void TrainerWindow::PredictTensRatio(bool high) {
@@ -170,6 +192,29 @@ void TrainerWindow::PredictTensRatio(bool high) {
                           : QStringLiteral("The cards to come are poor in tens.")),
             *right ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
   ShowScore();
+}
+
+/// The predictions that come with a play; those of cards are told when the card is seen, that of the tens right away.
+QString TrainerWindow::TakeGuesses(const Guesses& guesses) {
+  const auto rangeOf = [](CardGuess guess) {
+    return guess == CardGuess::Unknown ? std::nullopt : std::optional(static_cast<engine::CardRange>(guess));
+  };
+  engine::Predictions& predictions = session_.Predictions();
+  if (guesses.hitCard != CardGuess::None) predictions.PredictHitCard(rangeOf(guesses.hitCard));
+  if (guesses.holeCard != CardGuess::None) predictions.PredictHoleCard(rangeOf(guesses.holeCard));
+  if (guesses.dealerIsStrong) predictions.PredictDealerHand(guesses.dealerIsStrong);
+  const auto tens = guesses.tensAreHigh ? session_.PredictTensRatio(*guesses.tensAreHigh) : std::nullopt;
+  return PredictionText(QStringLiteral("Tens ratio"), tens);
+}
+
+void TrainerWindow::ShowStatistics() {
+  if (!session_.HasRound()) return;
+  std::array<int, 4> seen{};
+  for (const engine::Card card : session_.Seen()) ++seen.at(static_cast<std::size_t>(engine::RangeOf(card.rank)));
+  ShowTable(ThenGoOn(QStringLiteral("Seen since the shuffle: %1 low, %2 mid and %3 high cards.")
+                         .arg(seen[1])
+                         .arg(seen[2])
+                         .arg(seen[3])));
 }
 
 void TrainerWindow::SayAdvice() {
@@ -191,7 +236,7 @@ void TrainerWindow::FollowStrategy(int number) {
   const std::string caption(catalogue_->CaptionOf(strategy));
   strategy_ = ToQt(caption);
   session_.Follow(std::make_shared<TableStrategy>(caption, *table));
-  box_->ToolTipMessage(strategy_);
+  box_->NameStrategy(strategy_);
   if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("The advice now follows %1.").arg(strategy_)));
   if (!session_.IsOver()) Ask();
 }

@@ -6,16 +6,20 @@
 #include <memory>
 #include <optional>
 
-#include "tactix-qt/Decision.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
 #include "tactix/shared/DecisionBlock.h"
 #include "trainer/engine/Session.h"
+#include "trainer/screens/BoxInput.h"
 #include "trainer/screens/TableModel.h"
+#include "trainer/screens/ToolBarInput.h"
 
 namespace trainer::screens {
 
 class ScoreBar;
 class TableView;
+
+/// With what the player plays.
+enum class InputKind { Box, ToolBar, ToolBarAndLegend };
 
 /// A decision as the window judged it, with what it was made on.
 struct DecisionRecord {
@@ -26,8 +30,8 @@ struct DecisionRecord {
   engine::Judgement judgement;
 };
 
-/// The trainer: a table with cards, and a decision box with which the player plays. The window deals, asks, judges and
-/// says what was right. Between hands any play deals the next one.
+/// The trainer: a table with cards, and a decision box or toolbar with which the player plays. The window deals, asks,
+/// judges and says what was right. Between hands any play deals the next one.
 class TrainerWindow : public QMainWindow {
   Q_OBJECT
 
@@ -37,10 +41,13 @@ class TrainerWindow : public QMainWindow {
                 QWidget* parent = nullptr);
 
   [[nodiscard]] const engine::Session& CurrentSession() const { return session_; }
-  tactix::qt::Decision& Box() { return *box_; }
+  tactix::qt::Decision& Box() { return box_->Box(); }
+  ToolBarInput& ToolBar() { return *toolBar_; }
   TableView& Table() { return *table_; }
   ScoreBar& Score() { return *score_; }
 
+  /// The box at first. The View menu does the same.
+  void PlayWith(InputKind kind);
   /// The next round. What is left of the last one is given up.
   void Deal();
 
@@ -49,7 +56,8 @@ class TrainerWindow : public QMainWindow {
   void Judged(const trainer::screens::DecisionRecord& record);
 
  private:
-  void Connect();
+  void MakeViewMenu();
+  void Connect(const DecisionInput& input);
   void Decide(engine::Decision decision);
   void Ask();
   void Expect();
@@ -59,6 +67,8 @@ class TrainerWindow : public QMainWindow {
   void PredictHitCard(std::optional<engine::CardRange> range);
   void PredictHoleCard(std::optional<engine::CardRange> range);
   void PredictTensRatio(bool high);
+  QString TakeGuesses(const Guesses& guesses);
+  void ShowStatistics();
   void SayAdvice();
   void Burn();
   void CopyHand();
@@ -71,7 +81,9 @@ class TrainerWindow : public QMainWindow {
   QElapsedTimer sinceHandWasShown_;
   TableView* table_;
   ScoreBar* score_;
-  tactix::qt::Decision* box_;
+  BoxInput* box_;
+  ToolBarInput* toolBar_;
+  DecisionInput* input_;
 };
 
 }  // namespace trainer::screens

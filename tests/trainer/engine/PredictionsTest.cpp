@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "tests/trainer/engine/ScriptedCards.h"
+
 namespace trainer::engine {
 namespace {
 
@@ -47,6 +49,32 @@ TEST(PredictionsTest, TheLastWordCountsAndCanBeTakenBack) {
   EXPECT_EQ(predictions.SeeHitCard(Rank::Two), std::nullopt);
   EXPECT_EQ(predictions.SeeHoleCard(Rank::Two), std::nullopt);
   EXPECT_EQ(predictions.Made(), 1);
+}
+
+TEST(PredictionsTest, ADealersStiffHandIsWeak) {
+  struct Row {
+    const char* cards;
+    bool weak;
+  };
+  const Row rows[] = {{"5 6", false}, {"5 7", true},  {"T 2", true},  {"T 6", true}, {"9 8", false},
+                      {"T T", false}, {"A 2", false}, {"A A", false}, {"A T", false}};
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.cards);
+    const Hand hand(CardsOf(row.cards));
+    EXPECT_EQ(hand.IsStiff(), row.weak);
+    Predictions predictions;
+    EXPECT_EQ(predictions.SeeDealerHand(hand), std::nullopt);
+    predictions.PredictDealerHand(true);
+    EXPECT_EQ(predictions.SeeDealerHand(hand), !row.weak);
+    EXPECT_EQ(predictions.SeeDealerHand(hand), std::nullopt);
+    predictions.PredictDealerHand(false);
+    EXPECT_EQ(predictions.SeeDealerHand(hand), row.weak);
+    EXPECT_EQ(predictions.Made(), 2);
+    EXPECT_EQ(predictions.Right(), 1);
+    predictions.PredictDealerHand(false);
+    predictions.Forget();
+    EXPECT_EQ(predictions.SeeDealerHand(hand), std::nullopt);
+  }
 }
 
 TEST(PredictionsTest, TensRatioCountsTheCardsNotSeen) {

@@ -152,6 +152,26 @@ TEST(SessionTest, ScoresAHoleCardPredictionWhenTheRoundIsOver) {
   }
 }
 
+TEST(SessionTest, ScoresADealerPredictionByTheFirstTwoCardsWhenTheRoundIsOver) {
+  Session session(Rules{}, 18);
+  int weak = 0;
+  for (int i = 0; i < 40; ++i) {
+    DealToADecision(session);
+    session.Predictions().PredictDealerHand(true);
+    std::optional<bool> scored;
+    while (!session.IsOver()) {
+      ASSERT_EQ(scored, std::nullopt);
+      scored = session.Decide(Decision::Stand)->dealerPrediction;
+    }
+    const auto cards = session.CurrentRound().DealerHand().Cards();
+    const bool isWeak = Hand({cards[0], cards[1]}).IsStiff();
+    ASSERT_EQ(scored, !isWeak);
+    weak += isWeak ? 1 : 0;
+  }
+  EXPECT_GT(weak, 5);
+  EXPECT_LT(weak, 35);
+}
+
 TEST(SessionTest, TheHoleCardIsNotSeenForTheTensRatio) {
   for (std::uint64_t seed = 1; seed < 40; ++seed) {
     Session session(Rules{.decks = 1}, seed);

@@ -39,19 +39,25 @@ TEST(MessagesTest, AJudgementNamesTheStrategyAndThePredictions) {
     Decision chosen;
     std::optional<bool> hitCard;
     std::optional<bool> holeCard;
+    std::optional<bool> dealer;
     const char* strategy;
     const char* text;
   };
   const Row rows[] = {
-      {Decision::Hit, {}, {}, "", "Right: Hit 12 against 7."},
-      {Decision::Stand, {}, {}, "", "Better: Hit 12 against 7."},
-      {Decision::Hit, true, {}, "", "Right: Hit 12 against 7. Hit card predicted right."},
-      {Decision::Stand, {}, false, "", "Better: Hit 12 against 7. Hole card predicted wrong."},
-      {Decision::Hit, false, true, "Never Bust",
+      {Decision::Hit, {}, {}, {}, "", "Right: Hit 12 against 7."},
+      {Decision::Stand, {}, {}, {}, "", "Better: Hit 12 against 7."},
+      {Decision::Hit, true, {}, {}, "", "Right: Hit 12 against 7. Hit card predicted right."},
+      {Decision::Stand, {}, false, {}, "", "Better: Hit 12 against 7. Hole card predicted wrong."},
+      {Decision::Hit, {}, {}, true, "", "Right: Hit 12 against 7. Dealer's hand predicted right."},
+      {Decision::Hit,
+       false,
+       true,
+       {},
+       "Never Bust",
        "Right by Never Bust: Hit 12 against 7. Hit card predicted wrong. Hole card predicted right."},
   };
   for (const Row& row : rows) {
-    const engine::Judgement judgement{Decision::Hit, row.chosen, row.hitCard, row.holeCard};
+    const engine::Judgement judgement{Decision::Hit, row.chosen, row.hitCard, row.holeCard, row.dealer};
     EXPECT_EQ(JudgementText(judgement, Hand(CardsOf("T 2")), Rank::Seven, QLatin1String(row.strategy)).toStdString(),
               row.text);
   }

@@ -1,0 +1,60 @@
+#include "trainer/screens/BoxInput.h"
+
+#include <QVBoxLayout>
+
+namespace trainer::screens {
+
+namespace {
+
+constexpr int NoAdvice = 0;
+
+}  // namespace
+
+BoxInput::BoxInput(QWidget* parent) : DecisionInput(parent), box_(new tactix::qt::Decision(this)) {
+  using engine::CardRange;
+  using tactix::qt::Decision;
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(box_);
+  setFocusProxy(box_);
+
+  box_->DecisionBoxType(Decision::forUseWithBlackjackTable);
+  box_->AllowAdvice(Decision::LargeButton);
+
+  const auto plays = [this](void (Decision::*signal)(), engine::Decision decision) {
+    connect(box_, signal, this, [this, decision] { Q_EMIT Played(decision); });
+  };
+  plays(&Decision::PlayerHits, engine::Decision::Hit);
+  plays(&Decision::PlayerStands, engine::Decision::Stand);
+  plays(&Decision::PlayerSplits, engine::Decision::Split);
+  plays(&Decision::PlayerDoublesDown, engine::Decision::Double);
+  plays(&Decision::PlayerSurrenders, engine::Decision::Surrender);
+
+  using CardSignal = void (DecisionInput::*)(std::optional<CardRange>);
+  const auto predicts = [this](void (Decision::*signal)(), CardSignal tell, std::optional<CardRange> range) {
+    connect(box_, signal, this, [this, tell, range] { Q_EMIT(this->*tell)(range); });
+  };
+  predicts(&Decision::HitCardHiPrediction, &DecisionInput::HitCardPredicted, CardRange::High);
+  predicts(&Decision::HitCardLoPrediction, &DecisionInput::HitCardPredicted, CardRange::Low);
+  predicts(&Decision::HitCardNeutralPrediction, &DecisionInput::HitCardPredicted, CardRange::Mid);
+  predicts(&Decision::HitCardUnknownPrediction, &DecisionInput::HitCardPredicted, std::nullopt);
+  predicts(&Decision::WholeCardHiPrediction, &DecisionInput::HoleCardPredicted, CardRange::High);
+  predicts(&Decision::WholeCardLoPrediction, &DecisionInput::HoleCardPredicted, CardRange::Low);
+  predicts(&Decision::WholeCardNeutralPrediction, &DecisionInput::HoleCardPredicted, CardRange::Mid);
+  predicts(&Decision::WholeCardUnknownPrediction, &DecisionInput::HoleCardPredicted, std::nullopt);
+  connect(box_, &Decision::TensRatioHiPrediction, this, [this] { Q_EMIT TensRatioPredicted(true); });
+  connect(box_, &Decision::TensRatioLoPrediction, this, [this] { Q_EMIT TensRatioPredicted(false); });
+
+  connect(box_, &Decision::AdviceRequested, this, &DecisionInput::Advised);
+  connect(box_, &Decision::EvaluationStrategySelected, this, &DecisionInput::StrategyPicked);
+  connect(box_, &Decision::BurnACardRequested, this, &DecisionInput::BurnAsked);
+  connect(box_, &Decision::PlugHandCardsInClipboard, this, &DecisionInput::CopyAsked);
+}
+
+void BoxInput::Ask(const tactix::DecisionBlock& block) { box_->SetupTheDecisionBox(block); }
+
+void BoxInput::Rest() { box_->GiveAdvice(NoAdvice); }
+
+void BoxInput::NameStrategy(const QString& name) { box_->ToolTipMessage(name); }
+
+}  // namespace trainer::screens
