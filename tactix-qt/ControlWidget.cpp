@@ -127,11 +127,15 @@ void ControlWidget::AdoptGeometry() {
   place_ = pos();
   // A fraction of a pixel that the control has set stays as long as the pixels agree.
   const auto adopt = [](int pixels, float twips) { return ToPixels(twips) == pixels ? twips : ToTwips(pixels); };
-  const QScopedValueRollback<bool> adopting(adopting_, true);
-  RunUserAction(*site_, [&] {
-    extender.Place(adopt(x(), extender.Left()), adopt(y(), extender.Top()), adopt(width(), extender.Width()),
-                   adopt(height(), extender.Height()));
-  });
+  {
+    const QScopedValueRollback<bool> adopting(adopting_, true);
+    RunUserAction(*site_, [&] {
+      extender.Place(adopt(x(), extender.Left()), adopt(y(), extender.Top()), adopt(width(), extender.Width()),
+                     adopt(height(), extender.Height()));
+    });
+  }
+  // The control may insist on a size of its own.
+  if (control_ && QSize(ToPixels(extender.Width()), ToPixels(extender.Height())) != size()) ExtenderMoved();
 }
 
 void ControlWidget::resizeEvent(QResizeEvent*) { AdoptGeometry(); }

@@ -22,6 +22,10 @@ inline std::string FromQt(const QString& text) { return text.toStdString(); }
 inline QColor ToQt(Color color) { return {Red(color), Green(color), Blue(color)}; }
 inline Color FromQt(const QColor& color) { return color.red() | color.green() << 8 | color.blue() << 16; }
 
+/// The same for properties: a system colour is a colour that is not valid.
+inline QColor OwnColor(Color color) { return IsSystemColor(color) ? QColor() : ToQt(color); }
+inline Color ColorOr(const QColor& color, Color system) { return color.isValid() ? FromQt(color) : system; }
+
 /// Leaves what the font does not say to the widget it is set on.
 TACTIX_QT_EXPORT QFont ToQt(const Font& font);
 TACTIX_QT_EXPORT Font FromQt(const QFont& font);

@@ -5,14 +5,6 @@
 
 namespace tactix::qt {
 
-namespace {
-
-QColor ColorOf(Color color) { return IsSystemColor(color) ? QColor() : ToQt(color); }
-
-Color ColorOr(const QColor& color, Color system) { return color.isValid() ? FromQt(color) : system; }
-
-}  // namespace
-
 StrategyList::StrategyList(QWidget* parent) : ControlWidget(parent) {
   auto control = std::make_unique<tactix::StrategyList>(ItsSite());
   list_ = control.get();
@@ -23,9 +15,9 @@ StrategyList::StrategyList(QWidget* parent) : ControlWidget(parent) {
 
 StrategyList::~StrategyList() { EndControl(); }
 
-QColor StrategyList::BackColor() const { return ColorOf(list_->BackColor()); }
+QColor StrategyList::BackColor() const { return OwnColor(list_->BackColor()); }
 void StrategyList::BackColor(const QColor& color) { list_->BackColor(ColorOr(color, WindowColor)); }
-QColor StrategyList::ForeColor() const { return ColorOf(list_->ForeColor()); }
+QColor StrategyList::ForeColor() const { return OwnColor(list_->ForeColor()); }
 void StrategyList::ForeColor(const QColor& color) { list_->ForeColor(ColorOr(color, WindowTextColor)); }
 bool StrategyList::Enabled() const { return list_->Enabled(); }
 void StrategyList::Enabled(bool enabled) { list_->Enabled(enabled); }

@@ -5,13 +5,23 @@
 #include <QKeyEvent>
 
 #include "tactix-qt/AdviceButton.h"
+#include "tactix-qt/CardCountDisplayBox.h"
+#include "tactix-qt/ClumpCardList.h"
+#include "tactix-qt/CountValueSelector.h"
 #include "tactix-qt/Decision.h"
 #include "tactix-qt/DecisionBAR.h"
 #include "tactix-qt/DecisionBAR2.h"
+#include "tactix-qt/DecisionRegiLOG.h"
+#include "tactix-qt/DecisionRegister.h"
+#include "tactix-qt/DualCardCountDisplay.h"
 #include "tactix-qt/HitStandLegend.h"
+#include "tactix-qt/SpinCounter.h"
+#include "tactix-qt/StrategyDataPanel.h"
 #include "tactix-qt/StrategyList.h"
+#include "tactix-qt/UnitSelectionList.h"
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/companion/StrategyDataBlock.h"
 #include "trainer/screens/TrainerWindow.h"
 
 namespace tactix::tools {
@@ -22,9 +32,12 @@ using WidgetRef = std::unique_ptr<QWidget>;
 
 constexpr std::int16_t BasicStrategy = 0;
 constexpr std::uint64_t Seed = 7;
-constexpr QSize TrainerSize(660, 580);
+constexpr QSize TrainerSize(960, 760);
 constexpr QSize ColumnSize(100, 660);
 constexpr int NarrowWidth = 480;
+// Twips. A mounted spin counter stands 360 pixels apart from its number.
+constexpr float SpinCounterHeight = 360;
+constexpr float MountedHeight = 400 * 15;
 
 std::unique_ptr<qt::StrategyList> FilledStrategyList() {
   auto list = std::make_unique<qt::StrategyList>();
@@ -153,6 +166,145 @@ WidgetRef MakeToolBarNarrow() {
 
 WidgetRef MakeLegend() { return std::make_unique<qt::HitStandLegend>(); }
 
+WidgetRef MakeSpinCounter(qt::SpinCounter::SpinCounterPossibilities handedness, float height, int number) {
+  auto counter = std::make_unique<qt::SpinCounter>();
+  counter->AllowNegNumbers(true);
+  counter->control().Extender().Height(height);
+  counter->ControlHandedness(handedness);
+  counter->CounterValue(number);
+  return counter;
+}
+
+WidgetRef MakeSpinCounterNew() { return std::make_unique<qt::SpinCounter>(); }
+
+WidgetRef MakeSpinCounterLeft() { return MakeSpinCounter(qt::SpinCounter::LeftHandSpinCounter, SpinCounterHeight, 7); }
+
+WidgetRef MakeSpinCounterRight() {
+  return MakeSpinCounter(qt::SpinCounter::RighHandSpinCounter, SpinCounterHeight, -12);
+}
+
+WidgetRef MakeSpinCounterTop() { return MakeSpinCounter(qt::SpinCounter::TopMountSpinCounter, MountedHeight, 123); }
+
+WidgetRef MakeSpinCounterBottom() {
+  return MakeSpinCounter(qt::SpinCounter::BottomMountSpinCounter, MountedHeight, 123);
+}
+
+WidgetRef MakeCountValueSelector() {
+  auto selector = std::make_unique<qt::CountValueSelector>();
+  selector->CardValue(qt::CountValueSelector::theCardValueIsATen);
+  selector->control().Children.cmbPointValue.PickRow(9);
+  return selector;
+}
+
+WidgetRef MakeClumpCardList() {
+  auto list = std::make_unique<qt::ClumpCardList>();
+  list->CardValue(qt::ClumpCardList::theClumpCardValueIsAFive);
+  list->control().Children.cmbClumpValue.PickRow(20);
+  return list;
+}
+
+WidgetRef MakeUnitSelectionList() { return std::make_unique<qt::UnitSelectionList>(); }
+
+WidgetRef MakeUnitSelectionListWithChoice() {
+  auto list = std::make_unique<qt::UnitSelectionList>();
+  list->control().Children.comboBettingUnits.PickRow(9);
+  return list;
+}
+
+WidgetRef MakeDecisionRegister() {
+  auto scores = std::make_unique<qt::DecisionRegister>();
+  scores->DisplayTheDrillResults(1234, 1111);
+  return scores;
+}
+
+WidgetRef MakeDecisionRegisterWithBreaks() {
+  auto scores = std::make_unique<qt::DecisionRegister>();
+  scores->DisplayTheDrillResults(40, 31);
+  scores->SetupStatisticsBox(true);
+  return scores;
+}
+
+WidgetRef MakeDecisionRegisterAfterAdvice() {
+  auto scores = std::make_unique<qt::DecisionRegister>();
+  scores->TypeOfDecisionRegister(qt::DecisionRegister::AfterAdviceDecisionRegister);
+  scores->show();
+  QApplication::processEvents();
+  scores->DisplayTheDrillResults(3, 2);
+  scores->AfterAdvice(qt::DecisionRegister::afterYouShouldaDoubled);
+  return scores;
+}
+
+WidgetRef MakeDecisionRegiLOG(qt::DecisionRegister::DecisionRegisterType type,
+                              qt::DecisionRegister::AfterAdvicePossibilities verdict) {
+  auto log = std::make_unique<qt::DecisionRegiLOG>();
+  log->TypeOfDecisionRegister(type);
+  log->show();
+  QApplication::processEvents();
+  log->DisplayTheDrillResults(4, 3);
+  log->AfterAdvice(verdict);
+  return log;
+}
+
+WidgetRef MakeDecisionRegiLOGStandard() {
+  return MakeDecisionRegiLOG(qt::DecisionRegister::StandardDecisionRegister,
+                             qt::DecisionRegister::afterYourPlayWasCorrect);
+}
+
+WidgetRef MakeDecisionRegiLOGAfterAdvice() {
+  return MakeDecisionRegiLOG(qt::DecisionRegister::AfterAdviceDecisionRegister,
+                             qt::DecisionRegister::afterYouShouldaSurrendered);
+}
+
+WidgetRef MakeCardCountDisplayBox(int status) {
+  auto box = std::make_unique<qt::CardCountDisplayBox>();
+  box->ShadowBoxStatus(status);
+  box->CountBoxType(qt::CardCountDisplayBox::CountBoxIsRunningCount);
+  box->CountValue(-12);
+  return box;
+}
+
+WidgetRef MakeCardCountDisplayBoxPlain() {
+  return MakeCardCountDisplayBox(qt::CardCountDisplayBox::ShadowBoxingDisabled);
+}
+
+WidgetRef MakeCardCountDisplayBoxYellow() {
+  return MakeCardCountDisplayBox(qt::CardCountDisplayBox::ShadowBoxYellowColor);
+}
+
+WidgetRef MakeCardCountDisplayBoxGrey() {
+  return MakeCardCountDisplayBox(qt::CardCountDisplayBox::ShadowBoxBlackColor);
+}
+
+WidgetRef MakeDualCardCountDisplay() {
+  auto display = std::make_unique<qt::DualCardCountDisplay>();
+  display->TrueCountValue(3);
+  display->RunningCountValue(11);
+  return display;
+}
+
+WidgetRef MakeStrategyDataPanelNew() { return std::make_unique<qt::StrategyDataPanel>(); }
+
+WidgetRef MakeStrategyDataPanel() {
+  const auto block = std::make_shared<companion::StrategyDataBlock>();
+  block->RunningCount = -12;
+  block->TrueCount = -3;
+  block->AcesDealt = 14;
+  block->FivesDealt = 9;
+  block->TensDealt = 61;
+  block->BiasRating = 118;
+  block->ClumpType = 8;
+  block->CoreCardsDealt = 52;
+  block->TargetRating = -40;
+  block->DealerBreakPercent = 28.26F;
+  block->AdjustedCount = -5;
+  block->DealerStiffHands = 24;
+  block->DealerStrongHands = 31;
+  block->DealerEndingTotal = 18.52F;
+  auto panel = std::make_unique<qt::StrategyDataPanel>();
+  panel->HereIsYourStrategyData(block);
+  return panel;
+}
+
 std::unique_ptr<trainer::screens::TrainerWindow> MakeDealtTrainer() {
   auto window = std::make_unique<trainer::screens::TrainerWindow>(
       trainer::engine::Session({}, Seed), std::make_shared<companion::IniStrategyCatalogue>(
@@ -205,6 +357,26 @@ constexpr Scene AllScenes[] = {
     {"decision-bar2-vertical", MakeToolBarColumn},
     {"decision-bar2-narrow", MakeToolBarNarrow},
     {"hit-stand-legend", MakeLegend},
+    {"decision-register", MakeDecisionRegister},
+    {"decision-register-breaks", MakeDecisionRegisterWithBreaks},
+    {"decision-register-after-advice", MakeDecisionRegisterAfterAdvice},
+    {"decision-regilog", MakeDecisionRegiLOGStandard},
+    {"decision-regilog-after-advice", MakeDecisionRegiLOGAfterAdvice},
+    {"card-count-display-box", MakeCardCountDisplayBoxPlain},
+    {"card-count-display-box-yellow", MakeCardCountDisplayBoxYellow},
+    {"card-count-display-box-grey", MakeCardCountDisplayBoxGrey},
+    {"dual-card-count-display", MakeDualCardCountDisplay},
+    {"strategy-data-panel-new", MakeStrategyDataPanelNew},
+    {"strategy-data-panel", MakeStrategyDataPanel},
+    {"spin-counter-new", MakeSpinCounterNew},
+    {"spin-counter-left", MakeSpinCounterLeft},
+    {"spin-counter-right", MakeSpinCounterRight},
+    {"spin-counter-top", MakeSpinCounterTop},
+    {"spin-counter-bottom", MakeSpinCounterBottom},
+    {"count-value-selector", MakeCountValueSelector},
+    {"clump-card-list", MakeClumpCardList},
+    {"unit-selection-list", MakeUnitSelectionList},
+    {"unit-selection-list-choice", MakeUnitSelectionListWithChoice},
     {"trainer", MakeTrainer},
     {"trainer-result", MakeTrainerWithResult},
     {"trainer-toolbar", MakeTrainerWith<trainer::screens::InputKind::ToolBar>},

@@ -1,8 +1,10 @@
 #include "tactix-qt/peers/FramePeer.h"
 
 #include <QPainter>
+#include <QStyle>
 
 #include "tactix-qt/Convert.h"
+#include "tactix/platform/widgets/Panel.h"
 
 namespace tactix::qt {
 
@@ -17,17 +19,21 @@ FramePeer::FramePeer(Widget& widget, QtSite& site, QWidget* parent) : NativePeer
 }
 
 void FramePeer::Update(Aspect aspect) {
-  if (aspect == Aspect::Colors) {
-    update();
-  } else {
-    Peer::Update(aspect);
-  }
+  if (aspect == Aspect::Colors || aspect == Aspect::Caption) update();
+  Peer::Update(aspect);
 }
 
 void FramePeer::paintEvent(QPaintEvent* event) {
   // Not by the palette: the child widgets would inherit it.
   if (Model() && !IsSystemColor(Model()->BackColor())) QPainter(this).fillRect(rect(), ToQt(Model()->BackColor()));
   QFrame::paintEvent(event);
+  if (!Model() || Model()->Kind() != WidgetKind::Panel) return;
+  const QString caption = ToQt(static_cast<const tactix::Panel*>(Model())->Caption());
+  if (caption.isEmpty()) return;
+  constexpr int Flags = Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic;
+  QPainter painter(this);
+  painter.setFont(fitted_.Fit(caption, font(), contentsRect().size(), Flags, this));
+  style()->drawItemText(&painter, contentsRect(), Flags, palette(), isEnabled(), caption, foregroundRole());
 }
 
 }  // namespace tactix::qt

@@ -2,11 +2,12 @@
 
 #include <QFrame>
 
+#include "tactix-qt/FittedText.h"
 #include "tactix-qt/peers/Peer.h"
 
 namespace tactix::qt {
 
-/// A panel, raised, or a picture, flat and framed.
+/// A panel, raised and with its caption in the middle, or a picture, flat and framed.
 class TACTIX_QT_EXPORT FramePeer final : public NativePeer<QFrame, Widget> {
  public:
   FramePeer(Widget& widget, QtSite& site, QWidget* parent);
@@ -15,6 +16,9 @@ class TACTIX_QT_EXPORT FramePeer final : public NativePeer<QFrame, Widget> {
   void Update(Aspect aspect) override;
   bool TakesClickFocus() const override { return focusPolicy() != Qt::NoFocus; }
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  FittedText fitted_;
 };
 
 }  // namespace tactix::qt

@@ -3,18 +3,45 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <cmath>
 
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/Retirement.h"
-#include "tactix-qt/peers/Accessible.h"
 
 namespace tactix::qt {
+
+namespace {
+
+qreal Luminance(const QColor& color) {
+  const auto linear = [](auto part) { return std::pow(static_cast<qreal>(part), 2.2); };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Black or white, whichever stands out more: the palette's text may be as light as a ground that a control has set.
+QColor TextColorOn(const QColor& ground) {
+  constexpr qreal EvenContrast = 0.179;
+  return Luminance(ground) > EvenContrast ? Qt::black : Qt::white;
+}
+
+Qt::Alignment AlignmentOf(TextAlignment alignment) {
+  switch (alignment) {
+    case TextAlignment::Left:
+      return Qt::AlignLeft;
+    case TextAlignment::Center:
+      return Qt::AlignHCenter;
+    case TextAlignment::Right:
+      return Qt::AlignRight;
+  }
+  return Qt::AlignLeft;
+}
+
+}  // namespace
 
 LabelPeer::LabelPeer(Label& label, QtSite& site, QWidget* parent) : NativePeer(label, site, parent) {
   // No setWordWrap(): it wraps as it paints, and QLabel would lay every new text out for a size hint that nobody asks.
   setTextFormat(Qt::PlainText);
   setText(ToQt(label.Caption()));
-  InstallAccessibles();
+  Update(Aspect::Align);
 }
 
 bool LabelPeer::event(QEvent* event) {
@@ -57,11 +84,20 @@ void LabelPeer::Update(Aspect aspect) {
     case Aspect::Caption:
       setText(ToQt(Model()->Caption()));
       break;
+    case Aspect::Align:
+      setAlignment(AlignmentOf(Model()->Alignment()) | Qt::AlignVCenter);
+      break;
     case Aspect::Colors: {
       QPalette own;
-      if (!IsSystemColor(Model()->ForeColor())) own.setColor(QPalette::WindowText, ToQt(Model()->ForeColor()));
-      if (!IsSystemColor(Model()->BackColor())) own.setColor(QPalette::Window, ToQt(Model()->BackColor()));
-      setAutoFillBackground(!IsSystemColor(Model()->BackColor()));
+      const QColor text = OwnColor(Model()->ForeColor());
+      const QColor ground = OwnColor(Model()->BackColor());
+      if (text.isValid()) {
+        own.setColor(QPalette::WindowText, text);
+      } else if (ground.isValid()) {
+        own.setColor(QPalette::WindowText, TextColorOn(ground));
+      }
+      if (ground.isValid()) own.setColor(QPalette::Window, ground);
+      setAutoFillBackground(ground.isValid());
       setPalette(own);
       break;
     }

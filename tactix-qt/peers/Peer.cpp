@@ -10,7 +10,7 @@
 #include "tactix-qt/QtSite.h"
 #include "tactix-qt/Retirement.h"
 #include "tactix-qt/peers/Keys.h"
-#include "tactix/platform/widgets/Captioned.h"
+#include "tactix/platform/widgets/Label.h"
 
 namespace tactix::qt {
 
@@ -18,6 +18,22 @@ namespace {
 
 constexpr Aspect CommonAspects[] = {Aspect::Geometry, Aspect::ToolTip, Aspect::Font,
                                     Aspect::Colors,   Aspect::Enabled, Aspect::Visible};
+
+/// As read aloud; empty for a widget that has none.
+QString CaptionOf(const Widget& widget) {
+  switch (widget.Kind()) {
+    case WidgetKind::Label: {
+      const auto& label = static_cast<const Label&>(widget);
+      return ToQt(PlainCaption(label.Heading() + " " + label.Caption())).trimmed();
+    }
+    case WidgetKind::PushButton:
+    case WidgetKind::Panel:
+    case WidgetKind::Frame:
+      return ToQt(PlainCaption(static_cast<const Captioned&>(widget).Caption())).trimmed();
+    default:
+      return {};
+  }
+}
 
 std::int16_t ShiftOf(Qt::KeyboardModifiers modifiers) {
   int shift = 0;
@@ -106,17 +122,24 @@ void Peer::Update(Aspect aspect) {
     case Aspect::Text:
     case Aspect::Align:
       break;
+    case Aspect::Refresh:
+      native_.repaint();
+      break;
   }
 }
 
 void Peer::ShowAccessibleName() {
-  const WidgetKind kind = widget_->Kind();
-  QString name;
-  if (kind == WidgetKind::PushButton || kind == WidgetKind::Label) {
-    name = ToQt(PlainCaption(static_cast<const Captioned*>(widget_)->Caption()));
-  }
+  QString name = CaptionOf(*widget_);
   if (name.isEmpty()) name = native_.toolTip();
+  const Widget* const around = widget_->Parent();
+  if (name.isEmpty() && around && around->Kind() == WidgetKind::Frame) name = CaptionOf(*around);
   native_.setAccessibleName(name.isEmpty() ? ToQt(widget_->Name()) : name);
+}
+
+QRect Peer::InSight() const {
+  const QRect all = native_.rect();
+  const QRect inside = all & native_.parentWidget()->rect().translated(-native_.pos());
+  return inside.isEmpty() ? all : inside;
 }
 
 bool Peer::Before(QEvent& event) {

@@ -5,11 +5,15 @@
 #include <utility>
 #include <vector>
 
+#include "tactix-qt/peers/Accessible.h"
 #include "tactix-qt/peers/ContainerPeer.h"
 #include "tactix-qt/peers/FramePeer.h"
+#include "tactix-qt/peers/GroupBoxPeer.h"
 #include "tactix-qt/peers/LabelPeer.h"
+#include "tactix-qt/peers/LinePeer.h"
 #include "tactix-qt/peers/ListBoxPeer.h"
 #include "tactix-qt/peers/PushButtonPeer.h"
+#include "tactix-qt/peers/SpinButtonPeer.h"
 #include "tactix-qt/peers/ToolBarPeer.h"
 
 namespace tactix::qt {
@@ -35,6 +39,12 @@ QWidget* MakePeer(Widget& widget, QtSite& site, QWidget& parent) {
       return make(new ListBoxPeer(static_cast<ListBox&>(widget), site, &parent));
     case WidgetKind::ToolBar:
       return make(new ToolBarPeer(static_cast<ToolBar&>(widget), site, &parent));
+    case WidgetKind::SpinButton:
+      return make(new SpinButtonPeer(static_cast<SpinButton&>(widget), site, &parent));
+    case WidgetKind::Line:
+      return make(new LinePeer(static_cast<Line&>(widget), site, &parent));
+    case WidgetKind::Frame:
+      return make(new GroupBoxPeer(static_cast<Frame&>(widget), site, &parent));
   }
   return nullptr;
 }
@@ -54,6 +64,8 @@ void ListInReadingOrder(const Widget& widget, std::vector<QWidget*>& natives) {
 }  // namespace
 
 void MakePeers(Widget& widget, QtSite& site, QWidget& native) {
+  // Before the first native widget: Qt keeps what it has found for one.
+  InstallAccessibles();
   for (Widget* child : widget.Children()) {
     if (QWidget* peer = MakePeer(*child, site, native)) MakePeers(*child, site, *peer);
   }

@@ -15,7 +15,6 @@
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/PictureIcon.h"
 #include "tactix-qt/Retirement.h"
-#include "tactix-qt/peers/Accessible.h"
 #include "tactix-qt/peers/Keys.h"
 
 namespace tactix::qt {
@@ -48,7 +47,6 @@ QString WholeText(const ToolButton& button) {
 
 ToolBarPeer::ToolBarPeer(ToolBar& bar, QtSite& site, QWidget* parent)
     : NativePeer(bar, site, parent), more_(findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
-  InstallAccessibles();
   setMovable(false);
   setFocusPolicy(Qt::TabFocus);
   more_->setCheckable(false);

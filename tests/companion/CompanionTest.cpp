@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/counting/DefaultStrategyData.h"
 #include "tactix/decision/DecisionBAR2.h"
 #include "tactix/decision/DefaultEdition.h"
 #include "tactix/platform/headless/HeadlessSite.h"
@@ -26,6 +27,7 @@ class CompanionTest : public testing::Test {
     StrategyListData::UseCatalogue(nullptr);
     StrategyListData::CreateCatalogueWith(nullptr);
     DefaultEdition::CreateWith(nullptr);
+    DefaultStrategyData::CreateWith(nullptr);
   }
 };
 
@@ -55,6 +57,14 @@ TEST_F(CompanionTest, ToolbarsMakeThemselvesAnEditionOnceInstalled) {
   EXPECT_EQ(bar.thisKelvoEdition(), 3);
   DecisionBAR2 other(site);
   EXPECT_NE(other.KelvoEdition(), edition) << "each has its own";
+}
+
+TEST_F(CompanionTest, InstallingMakesEmptyStrategyDataBlocks) {
+  companion::Install();
+  const ObjectRef block = DefaultStrategyData::Create();
+  block->Put("RunningCount", 5);
+  EXPECT_EQ(block->Get("RunningCount"), Variant(5));
+  EXPECT_EQ(DefaultStrategyData::Create()->Get("RunningCount"), Variant(0));
 }
 
 TEST_F(CompanionTest, InstallingAgainKeepsWhatWasCreated) {

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdlib>
 #include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "tactix/platform/NumberText.h"
 #include "tests/platform/ErrorCode.h"
 
 namespace tactix {
@@ -107,17 +109,43 @@ TEST(VariantTextTest, TextToNumber) {
   EXPECT_EQ(ErrorCodeOf([] { return Variant(std::string_view("7\0", 2)).ToDouble(); }), 13);
 }
 
-TEST(VariantTextTest, NumbersAndTextsDoNotDependOnTheProcessLocale) {
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  bool found = false;
-  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"}) {
-    found = found || std::setlocale(LC_ALL, name) != nullptr;
+/// Sets a locale with a decimal comma for the process, where one was made for the tests or is installed.
+class CommaLocale {
+ public:
+  CommaLocale() {
+#if defined(TACTIX_LOCALE_FOLDER)
+    setenv("LOCPATH", TACTIX_LOCALE_FOLDER, 1);
+#endif
+    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"}) {
+      set_ = set_ || std::setlocale(LC_ALL, name) != nullptr;
+    }
+#if defined(TACTIX_LOCALE_FOLDER)
+    unsetenv("LOCPATH");
+#endif
   }
-  if (!found) GTEST_SKIP() << "no locale with a decimal comma is installed";
+  ~CommaLocale() { std::setlocale(LC_ALL, before_.c_str()); }
+
+  bool IsSet() const { return set_ && std::string_view(std::localeconv()->decimal_point) == ","; }
+
+ private:
+  std::string before_ = std::setlocale(LC_ALL, nullptr);
+  bool set_ = false;
+};
+
+TEST(VariantTextTest, NumbersAndTextsDoNotDependOnTheProcessLocale) {
+  const CommaLocale locale;
+#if defined(TACTIX_LOCALE_FOLDER)
+  ASSERT_TRUE(locale.IsSet());
+#else
+  if (!locale.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
+#endif
   EXPECT_EQ(Variant("1.5").ToDouble(), 1.5);
+  EXPECT_EQ(Variant("1.5E-3").ToSingle(), 0.0015F);
   EXPECT_EQ(Variant(1.5).ToText(), "1.5");
+  EXPECT_EQ(Variant(1.5F).ToText(), "1.5");
+  EXPECT_EQ(FormatNumber(1234.5, "#,##0.00"), "1,234.50");
+  EXPECT_EQ(Str(1.5), " 1.5");
   EXPECT_EQ(ErrorCodeOf([] { return Variant("1,5").ToDouble(); }), 13);
-  std::setlocale(LC_ALL, before.c_str());
 }
 
 TEST(VariantTextTest, ToText) {

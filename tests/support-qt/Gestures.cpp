@@ -1,5 +1,6 @@
 #include "tests/support-qt/Gestures.h"
 
+#include <QtTest/qtestspontaneevent.h>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -10,6 +11,7 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <QWindow>
 #include <functional>
 #include <vector>
@@ -111,6 +113,14 @@ void MoveTo(QWidget& window, const QPoint& place, std::int16_t shift) {
   const QPoint there = window.mapToGlobal(place) == LastPlace() ? place + QPoint(1, 0) : place;
   LastPlace() = window.mapToGlobal(there);
   QTest::mouseEvent(QTest::MouseMove, handle, Qt::NoButton, ModifiersOf(shift), there);
+}
+
+void TurnWheel(QWidget& window, const QPoint& place, int eighths) {
+  QWheelEvent turn(place, window.mapToGlobal(place), {}, {0, eighths}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                   false);
+  // Only what comes from outside goes on to the parents of a widget that ignores it.
+  QSpontaneKeyEvent::setSpontaneous(&turn);
+  qApp->notify(window.windowHandle(), &turn);
 }
 
 void PressKey(QWidget& window, std::int32_t code, std::int16_t shift) {

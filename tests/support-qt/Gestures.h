@@ -26,6 +26,8 @@ void ClickAt(QWidget& window, const QPoint& place, std::int16_t button = LeftBut
 void MoveTo(QWidget& window, const QPoint& place, std::int16_t shift = 0);
 /// Presses at one place and lets go at another.
 void Drag(QWidget& window, const QPoint& from, const QPoint& to, std::int16_t button, std::int16_t shift);
+/// Turns the mouse wheel by that many eighths of a degree, away from the user with a positive number. A notch is 120.
+void TurnWheel(QWidget& window, const QPoint& place, int eighths);
 void PressKey(QWidget& window, std::int32_t code, std::int16_t shift = 0);
 
 /// Open the list and pick a row there; close it again without a pick when there is no such row.

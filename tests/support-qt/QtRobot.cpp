@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <algorithm>
 #include <deque>
@@ -12,6 +13,7 @@
 #include "tactix-qt/ControlWidget.h"
 #include "tactix-qt/MenuPopUp.h"
 #include "tactix-qt/peers/ListBoxPeer.h"
+#include "tactix-qt/peers/SpinButtonPeer.h"
 #include "tactix-qt/peers/ToolBarPeer.h"
 #include "tests/support-qt/Gestures.h"
 #include "tests/support/Robot.h"
@@ -149,6 +151,10 @@ class QtRobot final : public Robot, private QObject {
     Settle();
   }
 
+  void SpinUp(SpinButton& spin, SpinBy by) override { Spin(spin, &qt::SpinButtonPeer::UpButton, UpArrowKey, by); }
+
+  void SpinDown(SpinButton& spin, SpinBy by) override { Spin(spin, &qt::SpinButtonPeer::DownButton, DownArrowKey, by); }
+
   void OnNextMenu(std::function<void(Menu&)> script) override { scripts_.push_back(std::move(script)); }
 
   void Choose(Menu& menu, MenuEntry& entry) override {
@@ -183,7 +189,8 @@ class QtRobot final : public Robot, private QObject {
     const QWidget* const native = NativeOf(widget);
     if (!native) return {};
     if (const auto* list = dynamic_cast<const qt::ListBoxPeer*>(native)) return list->ShownText().toStdString();
-    return PlainCaption(native->property("text").toString().toStdString());
+    const QVariant text = native->property("text");
+    return PlainCaption((text.isValid() ? text : native->property("title")).toString().toStdString());
   }
 
   bool SeesEnabled(const Widget& widget) const override {
@@ -247,6 +254,25 @@ class QtRobot final : public Robot, private QObject {
     if (!window_ || window_->isActiveWindow() || QApplication::activePopupWidget()) return;
     window_->activateWindow();
     static_cast<void>(QTest::qWaitForWindowActive(window_));
+  }
+
+  void Spin(SpinButton& spin, qt::ArrowButton& (qt::SpinButtonPeer::*half)(), std::int32_t key, SpinBy by) {
+    auto* const pair = dynamic_cast<qt::SpinButtonPeer*>(NativeOf(spin));
+    const std::optional<QPoint> place = pair ? ReachablePlace((pair->*half)()) : std::nullopt;
+    if (!place) return;
+    if (by == SpinBy::Mouse) {
+      ClickAt(*window_, *place);
+    } else if (by == SpinBy::Wheel) {
+      TurnWheel(*window_, *place,
+                key == UpArrowKey ? QWheelEvent::DefaultDeltasPerStep : -QWheelEvent::DefaultDeltasPerStep);
+    } else if (pair->isEnabled()) {
+      Activate();
+      const Weak<SpinButton> target(spin);
+      pair->setFocus(Qt::TabFocusReason);
+      Settle();
+      if (target) PressKey(key, 0);
+    }
+    Settle();
   }
 
   std::optional<QPoint> PlaceOf(const Widget& widget) const {

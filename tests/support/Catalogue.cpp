@@ -4,8 +4,21 @@ namespace tactix::tests {
 
 const std::vector<CatalogueEntry>& Catalogue() {
   static const std::vector<CatalogueEntry> entries = {
-      StrategyListEntry(), AdviceButtonEntry(), DecisionEntry(),
-      DecisionBAREntry(),  DecisionBAR2Entry(), HitStandLegendEntry(),
+      StrategyListEntry(),
+      AdviceButtonEntry(),
+      DecisionEntry(),
+      DecisionBAREntry(),
+      DecisionBAR2Entry(),
+      HitStandLegendEntry(),
+      DecisionRegisterEntry(),
+      DecisionRegiLOGEntry(),
+      CardCountDisplayBoxEntry(),
+      DualCardCountDisplayEntry(),
+      StrategyDataPanelEntry(),
+      SpinCounterEntry(),
+      CountValueSelectorEntry(),
+      ClumpCardListEntry(),
+      UnitSelectionListEntry(),
   };
   return entries;
 }

@@ -65,6 +65,10 @@ struct CatalogueEntry {
   std::function<std::unique_ptr<Control>(Site&)> make;
   std::function<std::vector<CataloguedEvent>(Control&)> events;
   std::vector<CataloguedProperty> properties;
+  /// Names that it saves besides: of what is no property of its own.
+  std::vector<std::string> alsoSaved = {};
+  /// What a new control announces while it takes its initial properties.
+  std::vector<std::string> announcedAtFirst = {};
   /// One for each event at least, except those that the control declares and never raises.
   std::vector<Raiser> raisers;
   std::vector<std::string> neverRaised;
@@ -83,6 +87,15 @@ CatalogueEntry DecisionEntry();
 CatalogueEntry DecisionBAREntry();
 CatalogueEntry DecisionBAR2Entry();
 CatalogueEntry HitStandLegendEntry();
+CatalogueEntry DecisionRegisterEntry();
+CatalogueEntry DecisionRegiLOGEntry();
+CatalogueEntry CardCountDisplayBoxEntry();
+CatalogueEntry DualCardCountDisplayEntry();
+CatalogueEntry StrategyDataPanelEntry();
+CatalogueEntry SpinCounterEntry();
+CatalogueEntry CountValueSelectorEntry();
+CatalogueEntry ClumpCardListEntry();
+CatalogueEntry UnitSelectionListEntry();
 
 // For the entry functions.
 

@@ -67,6 +67,14 @@ class HeadlessRobot final : public Robot {
     }
   }
 
+  void SpinUp(SpinButton& spin, SpinBy by) override {
+    by == SpinBy::ArrowKey ? PressAt(spin, UpArrowKey) : spin.SpinUp();
+  }
+
+  void SpinDown(SpinButton& spin, SpinBy by) override {
+    by == SpinBy::ArrowKey ? PressAt(spin, DownArrowKey) : spin.SpinDown();
+  }
+
   void OnNextMenu(std::function<void(Menu&)> script) override {
     if (window_) window_->ScriptMenu(std::move(script));
   }
@@ -122,6 +130,14 @@ class HeadlessRobot final : public Robot {
   bool SeesChecked(Menu&, const MenuEntry& entry) const override { return entry.Checked(); }
 
  private:
+  /// With the focus there, if it can have it.
+  void PressAt(Widget& widget, std::int32_t code) {
+    if (!widget.Usable()) return;
+    const Weak<Widget> target(widget);
+    widget.SetFocus();
+    if (target) PressKey(code, 0);
+  }
+
   template <class T>
   static std::vector<T> Joined(std::vector<T> first, const std::vector<T>& second) {
     first.insert(first.end(), second.begin(), second.end());

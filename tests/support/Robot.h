@@ -13,6 +13,7 @@
 #include "tactix/platform/widgets/ListBox.h"
 #include "tactix/platform/widgets/Menu.h"
 #include "tactix/platform/widgets/PushButton.h"
+#include "tactix/platform/widgets/SpinButton.h"
 #include "tactix/platform/widgets/ToolButton.h"
 #include "tactix/platform/widgets/Widget.h"
 
@@ -51,6 +52,10 @@ class Robot {
   enum class PickBy { Mouse, ReturnKey, ArrowKey };
   /// Picks a row of a list. By arrow key, the row must be the next or the previous one.
   virtual void PickRow(ListBox& list, std::int32_t row, PickBy by = PickBy::Mouse) = 0;
+  enum class SpinBy { Mouse, Wheel, ArrowKey };
+  /// Spins by one.
+  virtual void SpinUp(SpinButton& spin, SpinBy by = SpinBy::Mouse) = 0;
+  virtual void SpinDown(SpinButton& spin, SpinBy by = SpinBy::Mouse) = 0;
   /// What the user does with the next menu that opens: runs while it is open. Scripts queue up; without one a menu is
   /// closed without a choice.
   virtual void OnNextMenu(std::function<void(Menu&)> script) = 0;

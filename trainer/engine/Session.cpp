@@ -22,10 +22,16 @@ Session::Session(const Rules& rules, std::uint64_t seed, Money bet)
 
 void Session::Deal() {
   predictions_.Forget();
-  if (shoe_.NeedsShuffle()) shoe_.Shuffle();
+  if (shoe_.NeedsShuffle()) Shuffle();
   isCounted_ = false;
   round_.emplace(rules_, shoe_, std::vector<Money>{bet_});
   CountIfOver();
+}
+
+void Session::Shuffle() {
+  shoe_.Shuffle();
+  dealer_.Forget();
+  roundsAhead_ = 0;
 }
 
 const Round& Session::CurrentRound() const {
@@ -64,7 +70,10 @@ void Session::CountIfOver() {
   if (!round_->IsOver() || isCounted_) return;
   isCounted_ = true;
   ++tally_.hands;
-  tally_.net += round_->Net();
+  const Money net = round_->Net();
+  tally_.net += net;
+  dealer_.Add(round_->DealerHand());
+  roundsAhead_ += net > 0 ? 1 : net < 0 ? -1 : 0;
   predictions_.Forget();
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "trainer/engine/DealerRecord.h"
 #include "trainer/engine/Predictions.h"
 #include "trainer/engine/Round.h"
 #include "trainer/engine/Rules.h"
@@ -71,11 +72,17 @@ class Session {
   /// The cards that the player has seen since the shuffle.
   [[nodiscard]] std::vector<Card> Seen() const;
 
+  /// Of the rounds since the shuffle.
+  [[nodiscard]] const DealerRecord& TheDealer() const { return dealer_; }
+  /// Rounds since the shuffle that the player has won, less those that the dealer has.
+  [[nodiscard]] int RoundsAhead() const { return roundsAhead_; }
+
   [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
   [[nodiscard]] const Rules& TheRules() const { return rules_; }
   [[nodiscard]] const Shoe& TheShoe() const { return shoe_; }
 
  private:
+  void Shuffle();
   void CountIfOver();
   void SeeTheDealersCards(Judgement& judgement);
 
@@ -86,6 +93,8 @@ class Session {
   std::optional<Round> round_;
   engine::Predictions predictions_;
   Tally tally_;
+  DealerRecord dealer_;
+  int roundsAhead_ = 0;
   bool isCounted_ = false;
 };
 

@@ -4,13 +4,16 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QRandomGenerator>
 #include <QVBoxLayout>
 #include <array>
 
 #include "trainer/engine/Words.h"
+#include "trainer/screens/CountDrillDialog.h"
 #include "trainer/screens/HandBlock.h"
 #include "trainer/screens/Messages.h"
 #include "trainer/screens/ScoreBar.h"
+#include "trainer/screens/Scoreboard.h"
 #include "trainer/screens/TableOf.h"
 #include "trainer/screens/TableStrategy.h"
 #include "trainer/screens/TableView.h"
@@ -19,7 +22,9 @@ namespace trainer::screens {
 
 namespace {
 
-constexpr QSize FirstSize(1000, 780);
+constexpr QSize FirstSize(1000, 860);
+/// Counted with at first: simple, and widely known.
+constexpr int FirstCountSystem = 21;
 /// A little less than an advised button flashes.
 constexpr qint64 FlashMilliseconds = 1500;
 
@@ -49,6 +54,8 @@ TrainerWindow::TrainerWindow(engine::Session session,
       catalogue_(std::move(catalogue)),
       table_(new TableView(this)),
       score_(new ScoreBar(this)),
+      board_(new Scoreboard(this)),
+      countSystem_(engine::FindCountSystem(FirstCountSystem)),
       box_(new BoxInput(this)),
       toolBar_(new ToolBarInput(this)),
       input_(box_) {
@@ -56,6 +63,7 @@ TrainerWindow::TrainerWindow(engine::Session session,
   auto* const central = new QWidget(this);
   auto* const layout = new QVBoxLayout(central);
   layout->addWidget(table_, 1);
+  layout->addWidget(board_);
   layout->addWidget(score_);
   layout->addWidget(box_);
   layout->addWidget(toolBar_);
@@ -66,6 +74,7 @@ TrainerWindow::TrainerWindow(engine::Session session,
   box_->NameStrategy(QStringLiteral("basic strategy"));
   box_->setFocus();
   MakeViewMenu();
+  MakeDrillMenu();
   Connect(*box_);
   Connect(*toolBar_);
   ShowScore();
@@ -88,6 +97,22 @@ void TrainerWindow::MakeViewMenu() {
     group->addAction(action);
     connect(action, &QAction::triggered, this, [this, kind = row.kind] { PlayWith(kind); });
   }
+  menu->addSeparator();
+  QAction* const counts = menu->addAction(QStringLiteral("&Counts and statistics"));
+  counts->setCheckable(true);
+  counts->setChecked(true);
+  connect(counts, &QAction::toggled, board_, &Scoreboard::ShowCounts);
+}
+
+void TrainerWindow::MakeDrillMenu() {
+  QMenu* const menu = menuBar()->addMenu(QStringLiteral("&Drills"));
+  connect(menu->addAction(QStringLiteral("&Running count...")), &QAction::triggered, this,
+          &TrainerWindow::DrillCounting);
+}
+
+void TrainerWindow::DrillCounting() {
+  CountDrillDialog dialog(*countSystem_, session_.TheRules().decks, QRandomGenerator::global()->generate64(), this);
+  dialog.exec();
 }
 
 void TrainerWindow::PlayWith(InputKind kind) {
@@ -150,6 +175,7 @@ void TrainerWindow::Decide(engine::Decision decision) {
   if (session_.IsOver()) message = ThenGoOn(message);
   ShowTable(message, record.judgement.IsRight() ? TableModel::Verdict::Right : TableModel::Verdict::Wrong);
   ShowScore();
+  board_->ShowJudgement(record.judgement, session_.CurrentTally());
   Expect();
   Q_EMIT Judged(record);
 }
@@ -165,6 +191,7 @@ void TrainerWindow::ShowTable(const QString& message, TableModel::Verdict verdic
   model.message = message;
   model.verdict = verdict;
   table_->SetModel(std::move(model));
+  board_->ShowShoe(session_, *countSystem_);
 }
 
 void TrainerWindow::ShowScore() { score_->Show(session_.CurrentTally(), session_.Predictions()); }

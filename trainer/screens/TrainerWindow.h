@@ -8,6 +8,7 @@
 
 #include "tactix/companion/IniStrategyCatalogue.h"
 #include "tactix/shared/DecisionBlock.h"
+#include "trainer/engine/CountSystems.h"
 #include "trainer/engine/Session.h"
 #include "trainer/screens/BoxInput.h"
 #include "trainer/screens/TableModel.h"
@@ -16,6 +17,7 @@
 namespace trainer::screens {
 
 class ScoreBar;
+class Scoreboard;
 class TableView;
 
 /// With what the player plays.
@@ -45,6 +47,7 @@ class TrainerWindow : public QMainWindow {
   ToolBarInput& ToolBar() { return *toolBar_; }
   TableView& Table() { return *table_; }
   ScoreBar& Score() { return *score_; }
+  Scoreboard& Board() { return *board_; }
 
   /// The box at first. The View menu does the same.
   void PlayWith(InputKind kind);
@@ -57,12 +60,14 @@ class TrainerWindow : public QMainWindow {
 
  private:
   void MakeViewMenu();
+  void MakeDrillMenu();
   void Connect(const DecisionInput& input);
   void Decide(engine::Decision decision);
   void Ask();
   void Expect();
   void ShowTable(const QString& message, TableModel::Verdict verdict = TableModel::Verdict::None);
   void ShowScore();
+  void DrillCounting();
   [[nodiscard]] QString ThenGoOn(const QString& message) const;
   void PredictHitCard(std::optional<engine::CardRange> range);
   void PredictHoleCard(std::optional<engine::CardRange> range);
@@ -81,6 +86,8 @@ class TrainerWindow : public QMainWindow {
   QElapsedTimer sinceHandWasShown_;
   TableView* table_;
   ScoreBar* score_;
+  Scoreboard* board_;
+  const engine::CountSystem* countSystem_;
   BoxInput* box_;
   ToolBarInput* toolBar_;
   DecisionInput* input_;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "tactix/platform/Export.h"
-#include "tactix/platform/widgets/Widget.h"
+#include "tactix/platform/widgets/Captioned.h"
 
 namespace tactix {
 
-/// A raised area that holds other widgets.
-class TACTIX_EXPORT Panel final : public Widget {
+/// A raised area that holds other widgets. Its caption stands in the middle, under them.
+class TACTIX_EXPORT Panel final : public Captioned {
  public:
   WidgetKind Kind() const override { return WidgetKind::Panel; }
 };

@@ -25,7 +25,7 @@ class ToolBar;
 class ToolButton;
 class Widget;
 
-enum class WidgetKind { Extender, Panel, Picture, PushButton, Label, ListBox, ToolBar };
+enum class WidgetKind { Extender, Panel, Picture, PushButton, Label, ListBox, Line, ToolBar, SpinButton, Frame };
 
 /// Bits of the mouse buttons, by addition.
 enum MouseButton : std::int16_t { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
@@ -74,7 +74,8 @@ enum class Aspect {
   Value,
   Row,
   Text,
-  Align
+  Align,
+  Refresh
 };
 
 /// What a front end puts on a widget to draw it.
@@ -133,6 +134,9 @@ class TACTIX_EXPORT Widget : public Trackable {
   /// Above, or below, all its siblings.
   void BringToFront();
   void SendToBack();
+
+  /// Draws it anew, with all that lies in it, before the call returns; without a front end nothing happens.
+  void Refresh() { Notify(Aspect::Refresh); }
 
   /// Asks the site for the keyboard focus; a widget that is hidden or disabled does not take it.
   void SetFocus();

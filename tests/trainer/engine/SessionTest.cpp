@@ -172,6 +172,34 @@ TEST(SessionTest, ScoresADealerPredictionByTheFirstTwoCardsWhenTheRoundIsOver) {
   EXPECT_LT(weak, 35);
 }
 
+TEST(SessionTest, KeepsTheDealersRecordUntilTheShuffle) {
+  Session session(Rules{.decks = 1}, 4);
+  DealerRecord expected;
+  int ahead = 0;
+  int shuffles = 0;
+  for (int i = 0; i < 60; ++i) {
+    const bool shufflesNow = session.TheShoe().NeedsShuffle();
+    session.Deal();
+    if (shufflesNow) {
+      ++shuffles;
+      expected.Forget();
+      ahead = 0;
+    }
+    while (!session.IsOver()) {
+      ASSERT_EQ(session.RoundsAhead(), ahead) << "not before the round is over";
+      session.Decide(Decision::Stand);
+    }
+    expected.Add(session.CurrentRound().DealerHand());
+    const Money net = session.CurrentRound().Net();
+    ahead += net > 0 ? 1 : net < 0 ? -1 : 0;
+    ASSERT_EQ(session.RoundsAhead(), ahead);
+    ASSERT_EQ(session.TheDealer().StiffHands(), expected.StiffHands());
+    ASSERT_EQ(session.TheDealer().PlayedOut(), expected.PlayedOut());
+    ASSERT_DOUBLE_EQ(session.TheDealer().EndingTotal(), expected.EndingTotal());
+  }
+  EXPECT_GT(shuffles, 3);
+}
+
 TEST(SessionTest, TheHoleCardIsNotSeenForTheTensRatio) {
   for (std::uint64_t seed = 1; seed < 40; ++seed) {
     Session session(Rules{.decks = 1}, seed);

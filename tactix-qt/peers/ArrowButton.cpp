@@ -1,0 +1,79 @@
+#include "tactix-qt/peers/ArrowButton.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <algorithm>
+#include <utility>
+
+namespace tactix::qt {
+
+namespace {
+
+constexpr int ArrowMargin = 2;
+
+}  // namespace
+
+ArrowButton::ArrowButton(Qt::ArrowType arrow, std::function<void()> step, QWidget* parent)
+    : QPushButton(parent), step_(std::move(step)), arrow_(arrow) {
+  setFocusPolicy(Qt::NoFocus);
+  setAutoDefault(false);
+  setAutoRepeat(true);
+  setAutoRepeatDelay(style()->styleHint(QStyle::SH_SpinBox_ClickAutoRepeatThreshold, nullptr, this));
+  setAutoRepeatInterval(style()->styleHint(QStyle::SH_SpinBox_ClickAutoRepeatRate, nullptr, this));
+  connect(this, &QAbstractButton::pressed, this, [this] { Step(); });
+}
+
+void ArrowButton::Step() {
+  ++stepping_;
+  step_();
+  --stepping_;
+}
+
+void ArrowButton::mousePressEvent(QMouseEvent* event) {
+  held_ = held_ || event->button() == Qt::LeftButton;
+  QPushButton::mousePressEvent(event);
+}
+
+void ArrowButton::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) held_ = false;
+  QPushButton::mouseReleaseEvent(event);
+}
+
+void ArrowButton::timerEvent(QTimerEvent* event) {
+  // A dialog that a step has opened gets the release of the mouse; and a step that takes its time is not run into.
+  if (held_ && (stepping_ > 0 || !(QGuiApplication::mouseButtons() & Qt::LeftButton))) {
+    held_ = false;
+    setDown(false);
+  }
+  QPushButton::timerEvent(event);
+}
+
+void ArrowButton::hideEvent(QHideEvent* event) {
+  held_ = false;
+  setDown(false);
+  QPushButton::hideEvent(event);
+}
+
+void ArrowButton::paintEvent(QPaintEvent*) {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  if (parentWidget()->hasFocus()) option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+  QPainter painter(this);
+  style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
+  QStyleOption arrow;
+  arrow.initFrom(this);
+  const int side = std::max(std::min(width(), height()) - 2 * ArrowMargin, 1);
+  arrow.rect = QRect(0, 0, side, side);
+  arrow.rect.moveCenter(rect().center());
+  if (isDown()) {
+    arrow.rect.translate(style()->pixelMetric(QStyle::PM_ButtonShiftHorizontal, &option, this),
+                         style()->pixelMetric(QStyle::PM_ButtonShiftVertical, &option, this));
+  }
+  style()->drawPrimitive(arrow_ == Qt::UpArrow ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, &arrow,
+                         &painter, this);
+}
+
+}  // namespace tactix::qt

@@ -1,0 +1,29 @@
+#include "tactix/counting/CounterValueObject.h"
+
+#include <utility>
+
+#include "tactix/platform/Error.h"
+
+namespace tactix {
+
+namespace {
+
+CounterValueObject::Factory& TheFactory() {
+  static CounterValueObject::Factory factory;
+  return factory;
+}
+
+}  // namespace
+
+CounterValueObject::~CounterValueObject() = default;
+
+void CounterValueObject::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+
+std::shared_ptr<CounterValueObject> CounterValueObject::Create() {
+  const Factory create = TheFactory();  // a copy: it may set another factory while it runs
+  std::shared_ptr<CounterValueObject> value = create ? create() : nullptr;
+  if (!value) throw Error(Error::ObjectNotSet);
+  return value;
+}
+
+}  // namespace tactix

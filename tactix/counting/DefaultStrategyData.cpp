@@ -1,0 +1,27 @@
+#include "tactix/counting/DefaultStrategyData.h"
+
+#include <utility>
+
+#include "tactix/platform/Error.h"
+
+namespace tactix {
+
+namespace {
+
+DefaultStrategyData::Factory& TheFactory() {
+  static DefaultStrategyData::Factory factory;
+  return factory;
+}
+
+}  // namespace
+
+void DefaultStrategyData::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+
+ObjectRef DefaultStrategyData::Create() {
+  const Factory create = TheFactory();  // a copy: it may set another factory while it runs
+  ObjectRef block = create ? create() : nullptr;
+  if (!block) throw Error(Error::ObjectNotSet);
+  return block;
+}
+
+}  // namespace tactix

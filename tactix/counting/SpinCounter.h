@@ -1,0 +1,101 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <tuple>
+
+#include "tactix/counting/CounterValueObject.h"
+#include "tactix/platform/Control.h"
+#include "tactix/platform/Event.h"
+#include "tactix/platform/Export.h"
+#include "tactix/platform/widgets/Label.h"
+#include "tactix/platform/widgets/SpinButton.h"
+#include "tactix/shared/Coded.h"
+#include "tactix/shared/Enumerations.h"
+
+namespace tactix {
+
+/// A whole number that the player steps up and down, shown as three digits in brackets: a count, or the cards in a
+/// stack. The number lives in a CounterValueObject, which is created on first use; where nothing creates one, all that
+/// needs it fails with 91. A restored number is shown from its first change on.
+///
+/// Setters ignore what is out of their range.
+class TACTIX_EXPORT SpinCounter : public Control {
+ public:
+  explicit SpinCounter(Site& site);
+  ~SpinCounter() override;
+
+  /// The number, 0 by default: 0 to MaximumLimit, and anything below 0 where AllowNegNumbers is on. A change is shown,
+  /// announced and reported.
+  std::int16_t CounterValue();
+  void CounterValue(std::int16_t value);
+  /// 1 to 999; 999 by default. Restored as it was saved, in that range or not.
+  std::int16_t MaximumLimit() const { return maximumLimit_; }
+  void MaximumLimit(std::int16_t limit);
+  /// Whether stepping down goes on from the lower end at MaximumLimit; false by default. Neither saved nor announced.
+  /// Stepping up never wraps.
+  bool NumberWrap() const { return numberWrap_; }
+  void NumberWrap(bool wrap) { numberWrap_ = wrap; }
+  /// Whether numbers below 0 are allowed; false by default. Turning it off leaves the number as it is.
+  bool AllowNegNumbers() const { return allowNegNumbers_; }
+  void AllowNegNumbers(bool allow);
+  /// Where the number and the spin button stand, RighHandSpinCounter by default. A number that is no row beeps.
+  Coded<SpinCounterPossibilities> ControlHandedness() const { return controlHandedness_; }
+  void ControlHandedness(Coded<SpinCounterPossibilities> handedness);
+  /// The number's font, "Comic Sans MS" as designed; a saved one defaults to the ambient font.
+  const tactix::Font& Font() const { return Children.labelCardsInStack.Font(); }
+  void Font(const tactix::Font& font);
+  /// A switch that acts and does not stay: setting it runs ResetSizeToDefault, and it always reads false.
+  bool UseDefaultSize() const { return false; }
+  void UseDefaultSize(bool use);
+
+  /// Makes the control 360 twips high. Its width is always 1500.
+  void ResetSizeToDefault();
+
+  void InitProperties() override;
+  /// Changes no more than what it reads: raises nothing, and announces AllowNegNumbers only.
+  void ReadProperties(PropertyBag& bag) override;
+  void WriteProperties(PropertyBag& bag) override;
+  void Resized() override;
+  void AmbientChanged() override;
+  void Terminated() override;
+  const PropertyTable& Properties() const override;
+
+  struct EventSet {
+    /// After each accepted change and each step, also one that a limit has stopped; carries the number. What the
+    /// handler writes to it is ignored.
+    Event<std::int16_t&> CounterValueHasChanged{1, "CounterValueHasChanged"};
+
+    auto All() { return std::tie(CounterValueHasChanged); }
+  } Events;
+
+  /// Their places are in pixels.
+  struct ChildWidgets {
+    Label labelCardsInStack;
+    tactix::SpinButton SpinButton;
+  } Children;
+
+ private:
+  std::shared_ptr<CounterValueObject> ValueObject();
+  template <class Step>
+  void Change(const Step& step);
+  void StepUp();
+  void StepDown();
+  void Refresh();
+  void LayOut();
+  /// Runs one step of saving or restoring after the other as long as the control exists, whichever of them fails.
+  auto StepByStep() const;
+  void TakeAmbientColors();
+  /// The control's height in twips.
+  float HeightInTwips() const;
+  void HeightInTwips(float height);
+
+  std::shared_ptr<CounterValueObject> value_;
+  Coded<SpinCounterPossibilities> controlHandedness_ = SpinCounterPossibilities::RighHandSpinCounter;
+  std::int16_t maximumLimit_ = 999;
+  std::int16_t defaultHeight_ = 360;
+  bool numberWrap_ = false;
+  bool allowNegNumbers_ = false;
+};
+
+}  // namespace tactix

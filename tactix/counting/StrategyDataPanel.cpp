@@ -1,0 +1,171 @@
+#include "tactix/counting/StrategyDataPanel.h"
+
+#include <cmath>
+#include <string_view>
+#include <utility>
+
+#include "tactix/counting/DefaultStrategyData.h"
+#include "tactix/platform/Error.h"
+#include "tactix/platform/NumberText.h"
+#include "tactix/platform/PropertyTable.h"
+
+namespace tactix {
+
+namespace {
+
+using Widgets = StrategyDataPanel::ChildWidgets;
+
+template <Label Widgets::*label>
+void ShowInteger(StrategyDataPanel& panel, const Variant& value) {
+  (panel.Children.*label).Caption(std::to_string(value.ToInteger()));
+}
+
+template <Label Widgets::*label>
+void ShowLong(StrategyDataPanel& panel, const Variant& value) {
+  (panel.Children.*label).Caption(std::to_string(value.ToLong()));
+}
+
+void ShowClumpType(StrategyDataPanel& panel, const Variant& value) {
+  const Variant clumpType = value.ToLong();
+  panel.Children.datClumpType.Caption(panel.GetClumpStuff(clumpType.ToInteger()));
+}
+
+/// A count of hands as its shortest decimal text says it: 0.1 in a single is no longer a bit more than that.
+double AsItsTextSays(float hands) {
+  // These have no text that reads back; they fail as the division by them would.
+  if (!std::isfinite(hands)) throw Error(Error::Overflow);
+  return Variant(Variant(hands).ToText()).ToDouble();
+}
+
+double Strength(float stiffHands, float strongHands) {
+  const double divisor = AsItsTextSays(stiffHands);
+  const double dividend = AsItsTextSays(strongHands);
+  return divisor != 0 ? dividend / divisor : 0;
+}
+
+}  // namespace
+
+/// One field of a block and where it is shown; in the order of showing.
+struct StrategyDataPanel::Field {
+  std::string_view name;
+  void (*show)(StrategyDataPanel& panel, const Variant& value);
+};
+
+const StrategyDataPanel::Field StrategyDataPanel::Fields[] = {
+    {"RunningCount", [](StrategyDataPanel& panel,
+                        const Variant& value) { panel.Children.CountDisplay.RunningCountValue(value.ToInteger()); }},
+    {"TrueCount", [](StrategyDataPanel& panel,
+                     const Variant& value) { panel.Children.CountDisplay.TrueCountValue(value.ToInteger()); }},
+    {"AcesDealt", ShowInteger<&Widgets::datAces>},
+    {"FivesDealt", ShowInteger<&Widgets::datFives>},
+    {"TensDealt", ShowInteger<&Widgets::dat10Count>},
+    {"BiasRating", ShowLong<&Widgets::datBiasRating>},
+    {"ClumpType", ShowClumpType},
+    {"CoreCardsDealt", ShowInteger<&Widgets::datCoreCards>},
+    {"TargetRating", ShowLong<&Widgets::datTargetRating>},
+    {"DealerBreakPercent",
+     [](StrategyDataPanel& panel, const Variant& value) {
+       panel.Children.datDealerBreaks.Caption(FormatNumber(value.ToSingle(), "#0.0"));
+     }},
+    {"AdjustedCount", ShowInteger<&Widgets::datAdjustedCount>},
+};
+
+StrategyDataPanel::StrategyDataPanel(Site& site) : Control(site), innerSite_(site), Children(innerSite_) {
+  BuildWidgets();
+  ReportPressesOn(Extender());
+}
+
+StrategyDataPanel::~StrategyDataPanel() = default;
+
+void StrategyDataPanel::ReportPressesOn(Widget& widget) {
+  widget.MousePressed.Connect([this](const MouseState&) { Events.PanelClick.Raise(); });
+  for (Widget* child : widget.Children()) ReportPressesOn(*child);
+}
+
+void StrategyDataPanel::HereIsYourStrategyData(const ObjectRef& thisSDB) { Display(thisSDB); }
+
+void StrategyDataPanel::HereIsSomeStrategyDataBlockData(const ObjectRef& aStrategyDataBlock) {
+  const Weak<StrategyDataPanel> self(this);
+  const ObjectRef block = aStrategyDataBlock ? aStrategyDataBlock : DefaultStrategyData::Create();
+  if (!self) return;
+  // The old block goes last: it may be the last thing that keeps the host's, and the panel.
+  const ObjectRef old = std::exchange(ownBlock_, block);
+  Display(block);
+}
+
+void StrategyDataPanel::StrategyDataBlockData(const ObjectRef& block) {
+  const Weak<StrategyDataPanel> self(this);
+  if (!ownBlock_) {
+    const ObjectRef created = DefaultStrategyData::Create();
+    if (!self) return;
+    ownBlock_ = created;
+  }
+  const ObjectRef own = ownBlock_;
+  own->Put(DefaultPropertyName, block);
+  if (self) Display(ownBlock_);
+}
+
+void StrategyDataPanel::Display(const ObjectRef& block) {
+  // Kept, since any read may run code of the host's: it may give the panel another block, or destroy it.
+  const ObjectRef data = block;
+  if (!data) throw Error(Error::ObjectNotSet);
+  const Weak<StrategyDataPanel> self(this);
+  for (const Field& field : Fields) {
+    const Variant value = data->Get(field.name);
+    if (!self) return;
+    field.show(*this, value);
+  }
+  const float stiffHands = data->Get("DealerStiffHands").ToSingle();
+  if (!self) return;
+  const float strongHands = data->Get("DealerStrongHands").ToSingle();
+  if (!self) return;
+  Children.datDealerStrength.Caption(FormatNumber(Strength(stiffHands, strongHands), "#0.00"));
+  const float endingTotal = data->Get("DealerEndingTotal").ToSingle();
+  if (!self) return;
+  Children.datEndingTotal.Caption(FormatNumber(endingTotal, "00.0"));
+}
+
+std::string StrategyDataPanel::GetClumpStuff(std::int16_t clumpType) const {
+  struct Clump {
+    std::int16_t lowest;
+    std::string_view text;
+  };
+  constexpr Clump Clumps[] = {{11, "Player +"}, {8, "Player -"}, {7, "Neutral "}, {4, "Dealer -"}};
+  for (const Clump& clump : Clumps) {
+    if (clumpType >= clump.lowest) return std::string(clump.text);
+  }
+  return "Dealer +";
+}
+
+void StrategyDataPanel::ShadowBoxStatus(Coded<ShadowBoxingConstants> status) {
+  Children.CountDisplay.ShadowBoxStatus(status);
+}
+
+void StrategyDataPanel::Refresh() { Extender().Refresh(); }
+
+void StrategyDataPanel::TheKelvoEditionIs(const ObjectRef& theKelvoEdition) {
+  const ObjectRef edition = theKelvoEdition;
+  if (!edition) throw Error(Error::ObjectNotSet);
+  const Weak<StrategyDataPanel> self(this);
+  const std::int32_t code = edition->Get("thisKelvoEdition").ToLong();
+  if (self) editionCode_ = code;
+}
+
+void StrategyDataPanel::Resized() {
+  Children.panelStrategyInformation.Place(0, 0, Extender().ScaleWidth(), Extender().ScaleHeight());
+}
+
+void StrategyDataPanel::Terminated() {
+  const ObjectRef released = std::exchange(ownBlock_, nullptr);
+  Control::Terminated();
+}
+
+const PropertyTable& StrategyDataPanel::Properties() const {
+  using Self = StrategyDataPanel;
+  static const PropertyTable table = PropertyTable()
+                                         .SetOnly<Self>("StrategyDataBlockData", &Self::StrategyDataBlockData)
+                                         .SetOnly<Self>("ShadowBoxStatus", &Self::ShadowBoxStatus);
+  return table;
+}
+
+}  // namespace tactix
