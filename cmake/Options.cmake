@@ -36,6 +36,7 @@ option(TACTIX_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(TACTIX_BENCH "Build the benchmarks" OFF)
 option(TACTIX_EXAMPLES "Build the examples" OFF)
 option(TACTIX_LIBCXX "Build against libc++ (Clang only)" OFF)
+option(TACTIX_FUZZ "Build the fuzzers instead of the tests (Clang only)" OFF)
 option(TACTIX_PCH "Precompile the headers of Qt and of GoogleTest" OFF)
 set(TACTIX_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize= takes them")
 
@@ -53,6 +54,10 @@ endif()
 if(TACTIX_SANITIZE)
   add_compile_options(-fsanitize=${TACTIX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${TACTIX_SANITIZE})
+endif()
+
+if(TACTIX_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)

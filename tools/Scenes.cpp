@@ -5,8 +5,10 @@
 #include <QKeyEvent>
 
 #include "tactix-qt/AdviceButton.h"
+#include "tactix-qt/BetStrategyList.h"
 #include "tactix-qt/CardCountDisplayBox.h"
 #include "tactix-qt/ClumpCardList.h"
+#include "tactix-qt/CountStrategyList.h"
 #include "tactix-qt/CountValueSelector.h"
 #include "tactix-qt/Decision.h"
 #include "tactix-qt/DecisionBAR.h"
@@ -18,6 +20,8 @@
 #include "tactix-qt/SpinCounter.h"
 #include "tactix-qt/StrategyDataPanel.h"
 #include "tactix-qt/StrategyList.h"
+#include "tactix-qt/StrategyListLITE.h"
+#include "tactix-qt/StrategyMarquix.h"
 #include "tactix-qt/UnitSelectionList.h"
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
@@ -59,6 +63,44 @@ WidgetRef MakeStrategyListOpen() {
   list->show();
   list->findChild<QComboBox*>()->showPopup();
   return list;
+}
+
+template <class List>
+WidgetRef MakeFilled(int row) {
+  auto list = std::make_unique<List>();
+  list->LoadStrategiesFromIniFile();
+  list->ListIndex(row - 1);
+  return list;
+}
+
+template <class List>
+WidgetRef MakeOpen(int row) {
+  WidgetRef list = MakeFilled<List>(row);
+  list->show();
+  list->findChild<QComboBox*>()->showPopup();
+  return list;
+}
+
+WidgetRef MakeStrategyListLITE() { return MakeFilled<qt::StrategyListLITE>(1); }
+
+WidgetRef MakeBetStrategyList() { return MakeFilled<qt::BetStrategyList>(1); }
+
+WidgetRef MakeBetStrategyListOpen() { return MakeOpen<qt::BetStrategyList>(1); }
+
+WidgetRef MakeCountStrategyListNew() { return std::make_unique<qt::CountStrategyList>(); }
+
+WidgetRef MakeCountStrategyListOpen() { return MakeOpen<qt::CountStrategyList>(10); }
+
+WidgetRef MakeStrategyMarquixNew() { return std::make_unique<qt::StrategyMarquix>(); }
+
+WidgetRef MakeStrategyMarquix() {
+  auto marquee = std::make_unique<qt::StrategyMarquix>();
+  marquee->Caption(QStringLiteral("Your playing strategy"));
+  marquee->LoadStrategiesFromIniFile();
+  marquee->ListIndex(BasicStrategy);
+  marquee->ControlType(qt::StrategyMarquix::IsAPlayingMarquix);
+  marquee->SelectThisStrategy(true);
+  return marquee;
 }
 
 WidgetRef MakeAdviceButton() { return std::make_unique<qt::AdviceButton>(); }
@@ -342,6 +384,13 @@ constexpr Scene AllScenes[] = {
     {"strategy-list", MakeStrategyList},
     {"strategy-list-choice", MakeStrategyListWithChoice},
     {"strategy-list-open", MakeStrategyListOpen},
+    {"strategy-list-lite", MakeStrategyListLITE},
+    {"bet-strategy-list", MakeBetStrategyList},
+    {"bet-strategy-list-open", MakeBetStrategyListOpen},
+    {"count-strategy-list-new", MakeCountStrategyListNew},
+    {"count-strategy-list-open", MakeCountStrategyListOpen},
+    {"strategy-marquix-new", MakeStrategyMarquixNew},
+    {"strategy-marquix", MakeStrategyMarquix},
     {"advice-button", MakeAdviceButton},
     {"advice-button-list", MakeAdviceButtonWithList},
     {"decision-new", MakeDecisionNew},

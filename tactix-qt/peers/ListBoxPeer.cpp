@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/Retirement.h"
@@ -33,6 +34,15 @@ void ListBoxPeer::Picked(int row) {
 void ListBoxPeer::RowInserted(ListBox& box, std::int32_t row) {
   insertItem(row, ToQt(box.List(row)));
   // Not ShowRow(): a fill would pay for it with every row. But Qt picks the first row of a list by itself.
+  if (currentIndex() != box.ListIndex()) setCurrentIndex(box.ListIndex());
+}
+
+void ListBoxPeer::RowsAppended(ListBox& box, std::int32_t first, std::int32_t rows) {
+  QStringList texts;
+  texts.reserve(rows);
+  // A peer that was made in the middle has some of them.
+  for (std::int32_t row = std::max(first, count()); row < first + rows; ++row) texts += ToQt(box.List(row));
+  insertItems(count(), texts);
   if (currentIndex() != box.ListIndex()) setCurrentIndex(box.ListIndex());
 }
 

@@ -15,6 +15,7 @@ class TACTIX_QT_EXPORT ListBoxPeer final : public NativePeer<QComboBox, ListBox>
   ListBoxPeer(ListBox& box, QtSite& site, QWidget* parent);
 
   void RowInserted(ListBox& box, std::int32_t row) override;
+  void RowsAppended(ListBox& box, std::int32_t first, std::int32_t count) override;
   void RowsCleared(ListBox& box) override;
 
   void showPopup() override;

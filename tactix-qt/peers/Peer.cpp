@@ -27,6 +27,7 @@ QString CaptionOf(const Widget& widget) {
       return ToQt(PlainCaption(label.Heading() + " " + label.Caption())).trimmed();
     }
     case WidgetKind::PushButton:
+    case WidgetKind::OptionButton:
     case WidgetKind::Panel:
     case WidgetKind::Frame:
       return ToQt(PlainCaption(static_cast<const Captioned&>(widget).Caption())).trimmed();

@@ -12,6 +12,7 @@
 #include "tactix-qt/peers/LabelPeer.h"
 #include "tactix-qt/peers/LinePeer.h"
 #include "tactix-qt/peers/ListBoxPeer.h"
+#include "tactix-qt/peers/OptionButtonPeer.h"
 #include "tactix-qt/peers/PushButtonPeer.h"
 #include "tactix-qt/peers/SpinButtonPeer.h"
 #include "tactix-qt/peers/ToolBarPeer.h"
@@ -33,6 +34,8 @@ QWidget* MakePeer(Widget& widget, QtSite& site, QWidget& parent) {
       return make(new FramePeer(widget, site, &parent));
     case WidgetKind::PushButton:
       return make(new PushButtonPeer(static_cast<PushButton&>(widget), site, &parent));
+    case WidgetKind::OptionButton:
+      return make(new OptionButtonPeer(static_cast<OptionButton&>(widget), site, &parent));
     case WidgetKind::Label:
       return make(new LabelPeer(static_cast<Label&>(widget), site, &parent));
     case WidgetKind::ListBox:

@@ -14,4 +14,15 @@ void IgnoringErrors(Step&& step) {
   }
 }
 
+/// Runs one statement and passes over "object not set", so that the next statement runs. Every other error goes on. A
+/// routine that resumes after 91 wraps each of its statements, not itself.
+template <class Statement>
+void PassingOverObjectNotSet(Statement&& statement) {
+  try {
+    statement();
+  } catch (const Error& error) {
+    if (error.Code() != Error::ObjectNotSet) throw;
+  }
+}
+
 }  // namespace tactix

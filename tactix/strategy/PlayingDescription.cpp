@@ -1,7 +1,7 @@
 #include "tactix/strategy/PlayingDescription.h"
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Variant.h"
+#include "tactix/strategy/FlagText.h"
 #include "tactix/strategy/RowTexts.h"
 #include "tactix/strategy/StrategyListData.h"
 
@@ -9,33 +9,45 @@ namespace tactix {
 
 namespace {
 
-bool ToFlag(std::string_view text) { return Variant(text).ToBoolean(); }
+constexpr auto None = std::string_view::npos;
 
-}  // namespace
-
-std::optional<std::string> PlayingRowText(std::string_view description, int strategy) {
-  constexpr auto none = std::string_view::npos;
+/// The caption, where the strategy is present.
+std::optional<std::string> PresentCaption(std::string_view description) {
   const std::size_t firstComma = description.find(',');
-  if (firstComma == none) return std::nullopt;
-  std::string note(description.substr(0, firstComma));
+  if (firstComma == None) throw Error(Error::InvalidProcedureCall);
   const std::size_t secondComma = description.find(',', firstComma + 1);
-  if (secondComma == none) return std::string(NotPresentText);
+  if (secondComma == None) return std::nullopt;
   std::string caption(description.substr(firstComma + 1, secondComma - firstComma - 1));
 
   std::size_t presentAt = 0;  // without a blank the last field starts at the first character
   const std::size_t blank = description.find(' ', secondComma + 1);
-  if (blank != none) {
-    if (ToFlag(description.substr(secondComma + 1, blank - secondComma - 1))) {
-      note = UnshiftAndTrimStrategyText(note);
+  if (blank != None) {
+    if (FlagOf(description.substr(secondComma + 1, blank - secondComma - 1))) {
+      // No list shows the note, but one that cannot be unshifted fails.
+      static_cast<void>(UnshiftAndTrimStrategyText(description.substr(0, firstComma)));
       caption = UnshiftStrategyText(caption);
     }
     presentAt = blank + 1;
   }
   const std::size_t end = description.find(' ', presentAt);
-  if (end == none) throw Error(Error::InvalidProcedureCall);
-  const bool present = ToFlag(description.substr(presentAt, end - presentAt));
-  if (strategy < 0 || !present) return std::string(NotPresentText);
+  if (end == None) throw Error(Error::InvalidProcedureCall);
+  if (!FlagOf(description.substr(presentAt, end - presentAt))) return std::nullopt;
   return caption;
+}
+
+}  // namespace
+
+std::optional<std::string> PlayingRowText(std::string_view description, int strategy) {
+  if (description.find(',') == None) return std::nullopt;
+  auto caption = PresentCaption(description);
+  if (strategy < 0 || !caption) return std::string(NotPresentText);
+  return caption;
+}
+
+std::string CompactRowText(std::string_view description, int strategy) {
+  auto caption = PresentCaption(description);
+  if (strategy < 0 || !caption) return std::string(UnusableRowText(strategy));
+  return *std::move(caption);
 }
 
 }  // namespace tactix

@@ -6,9 +6,13 @@
 
 namespace tactix {
 
-/// The row text of a playing strategy's description, padded as the description buffer pads it:
-/// "note,caption,shifted present". Nothing where it has no comma at all: such a description gets no row. Fails with 13
-/// where a flag is none, and with 5 where the last field is not closed by a blank.
+// A playing strategy's description, padded as the description buffer pads it: "note,caption,shifted present". Both fail
+// with 13 where a flag is none, and with 5 where the last field is not closed by a blank or a shifted code is below 10.
+
+/// The row text in a playing list. Nothing where the description has no comma at all: it then gets no row.
 std::optional<std::string> PlayingRowText(std::string_view description, int strategy);
+
+/// The row text in a compact list, which calls an unusable seat an empty one. Fails with 5 where there is no comma.
+std::string CompactRowText(std::string_view description, int strategy);
 
 }  // namespace tactix

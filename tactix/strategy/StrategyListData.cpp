@@ -1,5 +1,6 @@
 #include "tactix/strategy/StrategyListData.h"
 
+#include <cstring>
 #include <utility>
 
 #include "tactix/platform/Error.h"
@@ -23,6 +24,12 @@ Shared& TheShared() {
   return shared;
 }
 
+bool IsAscii(std::string_view text) {
+  unsigned bits = 0;
+  for (const char c : text) bits |= static_cast<unsigned char>(c);
+  return bits < 0x80;
+}
+
 char32_t Unshift(const Utf8Character& character) {
   if (!character.wellFormed) return ReplacementCharacter;
   if (character.code < ShiftDistance) throw Error(Error::InvalidProcedureCall);
@@ -32,6 +39,14 @@ char32_t Unshift(const Utf8Character& character) {
 }  // namespace
 
 void DescriptionBuffer::Write(std::string_view text) {
+  const std::string_view fitting = text.substr(0, Width);
+  if (text_.size() == Width && IsAscii(fitting)) {
+    // Nearly every description: its characters are bytes, and the blanks behind it stand already.
+    std::memmove(text_.data(), fitting.data(), fitting.size());
+    if (fitting.size() < filled_) std::memset(text_.data() + fitting.size(), ' ', filled_ - fitting.size());
+    filled_ = fitting.size();
+    return;
+  }
   std::string written;  // apart from text_, which `text` may be a piece of
   written.reserve(Width);
   std::size_t count = 0;
@@ -40,6 +55,7 @@ void DescriptionBuffer::Write(std::string_view text) {
     AppendUtf8(written, character.code);
     text.remove_prefix(character.length);
   }
+  filled_ = written.size();
   written.append(Width - count, ' ');
   text_ = std::move(written);
 }

@@ -23,6 +23,7 @@ class TACTIX_EXPORT DescriptionBuffer {
 
  private:
   std::string text_;
+  std::size_t filled_ = 0;  // bytes; blanks from there on
 };
 
 /// What all strategy lists of the process share.

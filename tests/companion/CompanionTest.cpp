@@ -39,9 +39,9 @@ TEST_F(CompanionTest, ListsFillThemselvesOnceInstalled) {
   const ListBox& box = list.Children.StrategyListBox;
   std::vector<std::string> rows;
   for (std::int32_t row = 0; row < box.ListCount(); ++row) rows.push_back(box.List(row));
-  EXPECT_EQ(rows,
-            (std::vector<std::string>{"Not Present", "Basic 4-8 Decks S17", "Basic 4-8 Decks H17", "Basic 1 Deck H17",
-                                      "Basic 1 Deck S17", "Mimic the Dealer", "Never Bust", "Not Present"}));
+  EXPECT_EQ(rows, (std::vector<std::string>{"Not Present", "Basic 4-8 Decks S17", "Basic 4-8 Decks H17",
+                                            "Basic 1 Deck H17", "Basic 1 Deck S17", "Mimic the Dealer", "Never Bust",
+                                            "Not Present", "Not Present"}));
 }
 
 TEST_F(CompanionTest, ToolbarsMakeThemselvesAnEditionOnceInstalled) {

@@ -43,9 +43,11 @@ TEST(DefaultStrategiesTest, DescribesTheStrategies) {
       {4, "Draws to 17 as the dealer does", "Mimic the Dealer", "True True", "mimic-dealer"},
       {5, "Stands on every hand that a card could bust", "Never Bust", "True True", "never-bust"},
       {6, "Basic strategy with departures by the true count", "Index Plays by Count", "False False", ""},
+      {7, "One deck; plays by the cards of the hand and not by their total", "Composition-Dependent 1 Deck",
+       "False False", ""},
   };
   IniStrategyCatalogue catalogue = Default();
-  EXPECT_EQ(catalogue.GetStrategyRange().HighestPlayingStrategy, 6);
+  EXPECT_EQ(catalogue.GetStrategyRange().HighestPlayingStrategy, 7);
   for (const Row& row : rows) {
     std::int16_t number = row.number;
     const std::string description = catalogue.DescribeStrategy(number);

@@ -88,7 +88,7 @@ TEST(IniStrategyCatalogueTest, TellsTheHighestNumber) {
   EXPECT_EQ(highest("54").HighestBettingStrategy, 0);
 }
 
-TEST(IniStrategyCatalogueTest, HasNoBettingStrategiesAndNoCounts) {
+TEST(IniStrategyCatalogueTest, HasOnlyWhatTheFileHas) {
   IniStrategyCatalogue catalogue("[Playing 0]\ncaption=x\n", "s.ini");
   for (std::int16_t number = -1; number <= 40; ++number) {
     std::int16_t asked = number;
@@ -178,9 +178,11 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedRow{"TablesOnly", "[Table t]\n" + AllHits, "s.ini: holds no playing strategy"},
         RefusedRow{"Junk", "[Playing 0]\ncaption=a\nBasic\n", "s.ini:3: expected 'key = value'"},
         RefusedRow{"UnknownSection", "[Playing 0]\ncaption=a\n\n[Strategies]\n",
-                   "s.ini:4: expected '[Playing number]' or '[Table name]', found 'Strategies'"},
+                   "s.ini:4: expected '[Playing number]', '[Betting number]', '[Count number]' or '[Table name]', "
+                   "found 'Strategies'"},
         RefusedRow{"UnknownSectionInTable", "[Tables t]\n",
-                   "s.ini:1: expected '[Playing number]' or '[Table name]', found 'Tables t'"},
+                   "s.ini:1: expected '[Playing number]', '[Betting number]', '[Count number]' or '[Table name]', "
+                   "found 'Tables t'"},
         RefusedRow{"NoNumber", "[Playing]\ncaption=a\n", NoNumber},
         RefusedRow{"NumberTooLow", "[Playing -2]\ncaption=a\n", NoNumber},
         RefusedRow{"NumberTooHigh", "[Playing 55]\ncaption=a\n", NoNumber},

@@ -14,6 +14,7 @@
 namespace tactix::tests {
 namespace {
 
+using companion::BettingPlan;
 using companion::HandKind;
 using companion::IniError;
 using companion::IniStrategyCatalogue;
@@ -35,6 +36,34 @@ struct Mutated {
 int refused = 0;
 int taken = 0;
 
+std::string WhatIsWrongWithBet(IniStrategyCatalogue& catalogue, std::int16_t number) {
+  const std::string description = catalogue.DescribeBettingStrategy(number);
+  if (description.empty())
+    return number <= catalogue.GetStrategyRange().HighestBettingStrategy && number >= -1 &&
+                   !catalogue.BettingCaptionOf(-1).empty()
+               ? "gap in the betting strategies"
+               : "";
+  if (catalogue.DescribeStrategy(number).empty()) return "betting strategy without a playing strategy";
+  if (!IsUtf8(description) || CountUtf8(description) >= DescriptionBuffer::Width) return "bad bet";
+  if (std::count(description.begin(), description.end(), ',') != 2) return "bad fields of a bet";
+  const char presence = description[description.rfind(',') + 1];
+  if (presence != '0' && presence != '1') return "bad presence of a bet";
+  const BettingPlan* const plan = catalogue.BettingPlanOf(number);
+  if (plan && (plan->UnitsFor(7, 0) < 1 || plan->UnitsFor(-7, 7) > BettingPlan::MostUnits)) return "bad plan";
+  return {};
+}
+
+std::string WhatIsWrongWithCount(IniStrategyCatalogue& catalogue, std::int16_t number) {
+  std::string description;
+  catalogue.DescribeStrategy(number, description);
+  if (description.empty()) return catalogue.CountSettingsOf(number) ? "settings of no count" : "";
+  if (!IsUtf8(description) || CountUtf8(description) >= DescriptionBuffer::Width) return "bad count";
+  if (std::count(description.begin(), description.end(), ',') != 2) return "bad fields of a count";
+  const std::string fields = description.substr(description.rfind(',') + 1);
+  if (std::count(fields.begin(), fields.end(), ' ') != 6 || !fields.ends_with(' ')) return "bad blanks of a count";
+  return {};
+}
+
 /// A file is taken, and then every answer can be used, or it is refused with an error that names the file and one of
 /// its lines.
 std::string WhatIsWrong(Mutated& mutated) {
@@ -49,6 +78,8 @@ std::string WhatIsWrong(Mutated& mutated) {
       const PlayingTable* const table = catalogue.TableOf(number);
       if ((table == nullptr) != catalogue.PlaysOf(number).empty()) return "table missing";
       if (table) static_cast<void>(table->Find(HandKind::Pair, PlayingTable::Ace, PlayingTable::Ace));
+      if (const std::string wrong = WhatIsWrongWithBet(catalogue, number); !wrong.empty()) return wrong;
+      if (const std::string wrong = WhatIsWrongWithCount(catalogue, number); !wrong.empty()) return wrong;
     }
     return {};
   } catch (const IniError& error) {
@@ -88,6 +119,9 @@ TEST(StrategyFileMutationTest, IsTakenOrRefusedWithItsLine) {
                                   "no",
                                   "yes",
                                   "[Table",
+                                  "[Betting",
+                                  "[Count",
+                                  "true-count",
                                   "caption=",
                                   std::string(1, '\0'),
                                   std::string(2000, 'x')};

@@ -179,6 +179,11 @@ TEST_F(AdviceButtonTest, BothElementsTakeTheControlsWidth) {
 
 class AdviceButtonListTest : public AdviceButtonTest {
  protected:
+  AdviceButtonListTest() {
+    StrategyListData::UseCatalogue(nullptr);
+    StrategyListData::CreateCatalogueWith(nullptr);
+  }
+
   void SelectStrategy() {
     site_.ScriptMenu([this](Menu&) { children_.mnuSelectStrategy.Choose(); });
     children_.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});

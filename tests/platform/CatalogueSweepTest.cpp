@@ -167,7 +167,8 @@ TEST_P(CatalogueSweepTest, ABagThatFailsLeavesTheDefaults) {
     void Write(std::string_view, const Variant&) override { throw Error(1234); }
     void Write(std::string_view, const Variant&, const Variant&) override { throw Error(1234); }
   } bag;
-  control_->ReadProperties(bag);
+  EXPECT_EQ(ErrorCodeOf([&] { control_->ReadProperties(bag); }),
+            GetParam().failedRead == FailedRead::Reported ? 1234 : 0);
   for (const CataloguedProperty& property : GetParam().properties) {
     if (CanRead(*control_, property.name)) {
       EXPECT_EQ(Read(*control_, property.name), property.initial) << property.name;

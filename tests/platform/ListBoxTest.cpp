@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "tactix/platform/Error.h"
+#include "tests/platform/ErrorCode.h"
 #include "tests/platform/ListProbe.h"
 #include "tests/support/RowName.h"
 
@@ -361,6 +363,129 @@ TEST(ListBoxTest, TellsItsObserverWhatToDraw) {
   }
   EXPECT_EQ(watcher.log, (Log{"inserted one", "inserted zero", "row 1", "row -1", "text two", "row 0", "row -1",
                               "cleared", "gone"}));
+}
+
+TEST(ListBoxTest, KeepsANumberWithEachRow) {
+  ListBox list;
+  list.AddItem("one");
+  list.AddItem("two");
+  EXPECT_EQ(list.ItemData(1), 0);
+  list.ItemData(1, 42);
+  list.AddItem("zero", 0);
+  EXPECT_EQ(list.ItemData(2), 42) << "it moves with its row";
+  EXPECT_EQ(list.ItemData(1), 0);
+  for (const int row : {-1, 3}) {
+    EXPECT_EQ(ErrorCodeOf([&] { return list.ItemData(row); }), 380);
+    EXPECT_EQ(ErrorCodeOf([&] { list.ItemData(row, 1); }), 380);
+  }
+}
+
+/// Notes rows that come together as one.
+struct AppendingWatcher final : WidgetObserver {
+  Log log;
+
+  void Changed(Widget&, Aspect aspect) override {
+    if (aspect == Aspect::Row) log.emplace_back("row");
+    if (aspect == Aspect::Text) log.emplace_back("text");
+  }
+  void RowInserted(ListBox&, std::int32_t row) override { log.push_back("inserted " + std::to_string(row)); }
+  void RowsAppended(ListBox&, std::int32_t first, std::int32_t count) override {
+    log.push_back("appended " + std::to_string(first) + " " + std::to_string(count));
+  }
+  void RowsCleared(ListBox&) override { log.emplace_back("cleared"); }
+  void Gone(Widget&) override {}
+};
+
+/// What is done while rows are appended, and what is drawn.
+struct AppendingRow {
+  const char* name;
+  std::function<void(ListBox&)> act;
+  Log log;
+};
+
+class ListBoxAppendingTest : public testing::TestWithParam<AppendingRow> {};
+
+TEST_P(ListBoxAppendingTest, DrawsRowsTogether) {
+  AppendingWatcher watcher;
+  ListBox list;
+  list.AddItem("there before");
+  list.Observe(&watcher);
+  {
+    const ListBox::Appending appending(list);
+    GetParam().act(list);
+  }
+  EXPECT_EQ(watcher.log, GetParam().log);
+  list.AddItem("afterwards");
+  EXPECT_EQ(watcher.log.back(), "inserted " + std::to_string(list.ListCount() - 1));
+  list.Observe(nullptr);
+}
+
+void Append(ListBox& list, int count) {
+  for (int i = 0; i < count; ++i) list.AddItem("row");
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ListBoxAppendingTest,
+                         testing::Values(AppendingRow{"Nothing", [](ListBox&) {}, {}},
+                                         AppendingRow{"Rows", [](ListBox& list) { Append(list, 3); }, {"appended 1 3"}},
+                                         AppendingRow{"RowsOfAClearedList",
+                                                      [](ListBox& list) {
+                                                        Append(list, 3);
+                                                        list.Clear();
+                                                        Append(list, 2);
+                                                      },
+                                                      {"cleared", "appended 0 2"}},
+                                         AppendingRow{"ARowInBetween",
+                                                      [](ListBox& list) {
+                                                        Append(list, 2);
+                                                        list.AddItem("first", 0);
+                                                        Append(list, 1);
+                                                      },
+                                                      {"appended 1 2", "inserted 0", "appended 4 1"}},
+                                         AppendingRow{"ASelection",
+                                                      [](ListBox& list) {
+                                                        Append(list, 2);
+                                                        list.ListIndex(2);
+                                                        Append(list, 1);
+                                                      },
+                                                      {"appended 1 2", "row", "appended 3 1"}},
+                                         AppendingRow{"AText",
+                                                      [](ListBox& list) {
+                                                        Append(list, 2);
+                                                        list.Text("text");
+                                                      },
+                                                      {"appended 1 2", "text"}},
+                                         AppendingRow{"AnotherAppending",
+                                                      [](ListBox& list) {
+                                                        Append(list, 1);
+                                                        {
+                                                          const ListBox::Appending inner(list);
+                                                          Append(list, 1);
+                                                        }
+                                                        Append(list, 1);
+                                                      },
+                                                      {"appended 1 3"}}),
+                         RowName());
+
+TEST(ListBoxTest, MayEndWhileRowsAreAppended) {
+  auto list = std::make_unique<ListBox>();
+  const ListBox::Appending appending(*list);
+  Append(*list, 2);
+  list.reset();
+}
+
+TEST(ListBoxTest, AnObserverThatTakesRowsOneByOneGetsThemSo) {
+  ListWatcher watcher;
+  ListBox list;
+  list.Observe(&watcher);
+  {
+    const ListBox::Appending appending(list);
+    list.AddItem("one");
+    list.AddItem("two");
+    EXPECT_EQ(list.ListCount(), 2);
+    EXPECT_EQ(watcher.log, Log{});
+  }
+  EXPECT_EQ(watcher.log, (Log{"inserted one", "inserted two"}));
+  list.Observe(nullptr);
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include "tactix/platform/PropertyBag.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/strategy/StrategyListFixture.h"
+#include "tests/support/LoggingBag.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
@@ -76,36 +77,6 @@ TEST_F(StrategyListPropertiesTest, ItsPropertiesAreTheBoxes) {
   list_->ControlType(99);
   EXPECT_EQ(list_->ControlType(), 99);
 }
-
-/// Notes what a control reads and writes, and fails where a test says so.
-class LoggingBag final : public PropertyBag {
- public:
-  Texts log;
-  std::string failing;
-  MemoryPropertyBag stored;
-
-  Variant Read(std::string_view name, const Variant& defaultValue) override {
-    Note("read ", name);
-    return stored.Read(name, defaultValue);
-  }
-  void Write(std::string_view name, const Variant& value) override {
-    Note("write ", name);
-    stored.Write(name, value);
-  }
-  void Write(std::string_view name, const Variant& value, const Variant& defaultValue) override {
-    Note("write ", name);
-    defaults.push_back(std::string(name) + "=" +
-                       (defaultValue.Type() == VariantType::Font ? "font" : defaultValue.ToText()));
-    stored.Write(name, value, defaultValue);
-  }
-  Texts defaults;
-
- private:
-  void Note(const char* what, std::string_view name) {
-    log.push_back(what + std::string(name));
-    if (name == failing) throw Error(1234);
-  }
-};
 
 TEST_F(StrategyListPropertiesTest, ReadsAndWritesInOrder) {
   LoggingBag bag;

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QPointer>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -106,6 +107,11 @@ class QtRobot final : public Robot, private QObject {
     if (const auto place = native ? ReachablePlace(*native) : std::nullopt) {
       Drag(*window_, *place, mouseButton == LeftButton ? QPoint(window_->width() - 1, 0) : *place, mouseButton, shift);
     }
+    Settle();
+  }
+
+  void Click(OptionButton& button) override {
+    if (const auto place = PlaceOf(button)) ClickAt(*window_, *place);
     Settle();
   }
 
@@ -216,6 +222,11 @@ class QtRobot final : public Robot, private QObject {
 
   bool SeesPressed(const ToolButton& button) const override {
     const QToolButton* const native = qt::ToolBarPeer::NativeOf(button);
+    return native && native->isChecked();
+  }
+
+  bool SeesMarked(const OptionButton& button) const override {
+    const auto* const native = qobject_cast<QRadioButton*>(NativeOf(button));
     return native && native->isChecked();
   }
 

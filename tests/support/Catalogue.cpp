@@ -4,21 +4,11 @@ namespace tactix::tests {
 
 const std::vector<CatalogueEntry>& Catalogue() {
   static const std::vector<CatalogueEntry> entries = {
-      StrategyListEntry(),
-      AdviceButtonEntry(),
-      DecisionEntry(),
-      DecisionBAREntry(),
-      DecisionBAR2Entry(),
-      HitStandLegendEntry(),
-      DecisionRegisterEntry(),
-      DecisionRegiLOGEntry(),
-      CardCountDisplayBoxEntry(),
-      DualCardCountDisplayEntry(),
-      StrategyDataPanelEntry(),
-      SpinCounterEntry(),
-      CountValueSelectorEntry(),
-      ClumpCardListEntry(),
-      UnitSelectionListEntry(),
+      StrategyListEntry(),        StrategyListLITEEntry(),     BetStrategyListEntry(),   CountStrategyListEntry(),
+      StrategyMarquixEntry(),     AdviceButtonEntry(),         DecisionEntry(),          DecisionBAREntry(),
+      DecisionBAR2Entry(),        HitStandLegendEntry(),       DecisionRegisterEntry(),  DecisionRegiLOGEntry(),
+      CardCountDisplayBoxEntry(), DualCardCountDisplayEntry(), StrategyDataPanelEntry(), SpinCounterEntry(),
+      CountValueSelectorEntry(),  ClumpCardListEntry(),        UnitSelectionListEntry(),
   };
   return entries;
 }

@@ -24,6 +24,9 @@ enum class Saved { No, Yes, WrittenOnly };
 /// What becomes of a property that its bag fails to write: the next one is written, or the host gets the error.
 enum class FailedWrite { PassedOver, Reported };
 
+/// The same for one that its bag fails to read.
+enum class FailedRead { PassedOver, Reported };
+
 /// A property of a control as documented. Whether it can be read and written, the control's property table says.
 struct CataloguedProperty {
   std::string name;
@@ -75,6 +78,7 @@ struct CatalogueEntry {
   FailedWrite failedWrite = FailedWrite::PassedOver;
   /// Names that a group of elements shares.
   std::vector<std::string> groupNames;
+  FailedRead failedRead = FailedRead::PassedOver;
 };
 
 /// All controls. A new one gets an entry function in the file of its room, and a line in Catalogue.cpp.
@@ -82,6 +86,10 @@ const std::vector<CatalogueEntry>& Catalogue();
 
 // The entry functions.
 CatalogueEntry StrategyListEntry();
+CatalogueEntry StrategyListLITEEntry();
+CatalogueEntry BetStrategyListEntry();
+CatalogueEntry CountStrategyListEntry();
+CatalogueEntry StrategyMarquixEntry();
 CatalogueEntry AdviceButtonEntry();
 CatalogueEntry DecisionEntry();
 CatalogueEntry DecisionBAREntry();

@@ -25,6 +25,8 @@ class FakeCatalogue final : public StrategyCatalogue {
   std::map<int, std::string> Betting;
   std::map<int, std::string> Counts;
   StrategyRange Range;
+  /// What the last fill of a count strategy list has handed over.
+  ObjectRef Store;
   /// What was asked, as "Playing 5", in order.
   std::vector<std::string> Log;
   /// Runs at every call, after it was logged; may throw.
@@ -54,12 +56,26 @@ class FakeCatalogue final : public StrategyCatalogue {
     Note("Range");
     return range;
   }
-  void AttachCountStrategyStore(const ObjectRef&) override { Note("Store"); }
+  void AttachCountStrategyStore(const ObjectRef& store) override {
+    Store = store;
+    Note("Store");
+  }
 
   /// Describes strategies 0 ... highest as present, under the names "Strategy 0" and so on, and sets the range.
   void Describe(int highest) {
     for (int i = 0; i <= highest; ++i) Playing[i] = "note,Strategy " + std::to_string(i) + ",False True";
     Range.HighestPlayingStrategy = static_cast<std::int16_t>(highest);
+  }
+  /// Describes betting strategies -1 ... highest, and playing ones of the same numbers, and sets the range.
+  void DescribeBetting(int highest) {
+    Describe(highest);
+    Playing[-1] = "note,Seat,False True";
+    for (int i = -1; i <= highest; ++i) Betting[i] = "note,Bet " + std::to_string(i) + ",1";
+    Range.HighestBettingStrategy = static_cast<std::int16_t>(highest);
+  }
+  /// Describes count systems 11 ... 38 as listed, under the names "Count 11" and so on.
+  void DescribeCounts() {
+    for (int i = 11; i <= 38; ++i) Counts[i] = "note,Count " + std::to_string(i) + ",False True 1 2 3 4 ";
   }
 
  private:

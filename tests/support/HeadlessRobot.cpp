@@ -33,6 +33,7 @@ class HeadlessRobot final : public Robot {
   void Click(Label& label) override { label.Click(); }
 
   void PressByKey(ToolButton& button) override { button.Click(); }
+  void Click(OptionButton& button) override { button.Click(); }
 
   void MouseDown(Widget& widget, std::int16_t button, std::int16_t shift) override {
     // The mouse has to get there first.
@@ -126,6 +127,7 @@ class HeadlessRobot final : public Robot {
   bool SeesEnabled(const ToolButton& button) const override { return button.Enabled() && SeesEnabled(button.Bar()); }
 
   bool SeesPressed(const ToolButton& button) const override { return button.Value(); }
+  bool SeesMarked(const OptionButton& button) const override { return button.Value(); }
 
   bool SeesChecked(Menu&, const MenuEntry& entry) const override { return entry.Checked(); }
 

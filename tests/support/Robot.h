@@ -12,6 +12,7 @@
 #include "tactix/platform/widgets/Label.h"
 #include "tactix/platform/widgets/ListBox.h"
 #include "tactix/platform/widgets/Menu.h"
+#include "tactix/platform/widgets/OptionButton.h"
 #include "tactix/platform/widgets/PushButton.h"
 #include "tactix/platform/widgets/SpinButton.h"
 #include "tactix/platform/widgets/ToolButton.h"
@@ -43,6 +44,7 @@ class Robot {
   virtual void Click(Label& label) = 0;
   /// Gives a toolbar's button the focus and presses it there.
   virtual void PressByKey(ToolButton& button) = 0;
+  virtual void Click(OptionButton& button) = 0;
   virtual void MouseDown(Widget& widget, std::int16_t button, std::int16_t shift) = 0;
   /// A press on a toolbar's button is one on its bar, too.
   virtual void MouseDown(ToolButton& button, std::int16_t mouseButton, std::int16_t shift) = 0;
@@ -84,6 +86,7 @@ class Robot {
   virtual std::string SeesText(const ToolButton& button) const = 0;
   virtual bool SeesEnabled(const ToolButton& button) const = 0;
   virtual bool SeesPressed(const ToolButton& button) const = 0;
+  virtual bool SeesMarked(const OptionButton& button) const = 0;
   /// True for a checked entry of the open menu, as drawn.
   virtual bool SeesChecked(Menu& menu, const MenuEntry& entry) const = 0;
 };

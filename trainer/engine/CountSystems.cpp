@@ -56,8 +56,6 @@ constexpr CountSystem Systems[] = {
      "Snyder, Blackbelt in Blackjack, 1983"},
     {35, "Omega II",                     Points({ 0,  1,  1,  2,  2,  2,  1,  0, -1, -2}), All, 0, Deck,
      "Carlson, Blackjack for Blood, 1992"},
-    {38, "Core-Ratio Count!",            Points({ 0,  0,  0,  0,  1,  1,  1,  1,  0,  0}), All, 0, None,
-     "Tracking the Core Ratio, articlefortress.com"},
 };
 // clang-format on
 

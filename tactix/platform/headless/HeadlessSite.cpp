@@ -7,22 +7,32 @@
 
 #include "tactix/platform/Control.h"
 #include "tactix/platform/Timer.h"
+#include "tactix/platform/widgets/OptionButton.h"
 
 namespace tactix {
 
 namespace {
 
+bool IsButton(const Widget& widget) {
+  return widget.Kind() == WidgetKind::PushButton || widget.Kind() == WidgetKind::OptionButton;
+}
+
 /// The first button below a widget whose caption marks the letter and that the user can reach.
-PushButton* FindAccessKey(Widget& widget, char letter) {
+Widget* FindAccessKey(Widget& widget, char letter) {
   if (!widget.Visible() || !widget.Enabled()) return nullptr;
-  if (widget.Kind() == WidgetKind::PushButton) {
-    auto& button = static_cast<PushButton&>(widget);
-    if (button.AccessKey() == letter) return &button;
-  }
+  if (IsButton(widget) && static_cast<Captioned&>(widget).AccessKey() == letter) return &widget;
   for (Widget* child : widget.Children()) {
-    if (PushButton* found = FindAccessKey(*child, letter)) return found;
+    if (Widget* found = FindAccessKey(*child, letter)) return found;
   }
   return nullptr;
+}
+
+void Click(Widget& button) {
+  if (button.Kind() == WidgetKind::PushButton) {
+    static_cast<PushButton&>(button).Click();
+  } else {
+    static_cast<OptionButton&>(button).Click();
+  }
 }
 
 }  // namespace
@@ -110,8 +120,8 @@ void HeadlessSite::MadeDefault(PushButton& button) {
 bool HeadlessSite::PressKey(const KeyPress& key) {
   if ((key.shift & AltKey) != 0 && key.Letter() != '\0') {
     for (Control* control : controls_) {
-      if (PushButton* button = FindAccessKey(control->Extender(), key.Letter())) {
-        button->Click();
+      if (Widget* button = FindAccessKey(control->Extender(), key.Letter())) {
+        Click(*button);
         return true;
       }
     }

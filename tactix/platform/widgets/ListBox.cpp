@@ -1,5 +1,7 @@
 #include "tactix/platform/widgets/ListBox.h"
 
+#include <utility>
+
 #include "tactix/platform/Error.h"
 
 namespace tactix {
@@ -7,24 +9,55 @@ namespace tactix {
 void ListBox::Clear() {
   rows_.clear();
   row_ = -1;
+  notShown_ = 0;
   if (Observer()) Observer()->RowsCleared(*this);
 }
 
 void ListBox::AddItem(std::string_view item, std::optional<std::int32_t> index) {
   const std::int32_t at = index.value_or(ListCount());
   if (at < 0 || at > ListCount()) throw Error(Error::InvalidProcedureCall);
-  rows_.emplace(rows_.begin() + at, item);
+  if (at == ListCount()) return Append(std::string(item));
+  ShowAppended();
+  rows_.insert(rows_.begin() + at, Row{std::string(item)});
   if (row_ >= at) ++row_;
   if (Observer()) Observer()->RowInserted(*this, at);
 }
 
-const std::string& ListBox::List(std::int32_t row) const {
-  if (row < 0 || row >= ListCount()) throw Error(Error::InvalidPropertyValue);
-  return rows_[static_cast<std::size_t>(row)];
+void ListBox::Append(std::string item) {
+  rows_.push_back(Row{std::move(item)});
+  if (appendings_ > 0) {
+    ++notShown_;
+  } else if (Observer()) {
+    Observer()->RowInserted(*this, ListCount() - 1);
+  }
 }
+
+ListBox::Appending::Appending(ListBox& list) : list_(list) { ++list.appendings_; }
+
+ListBox::Appending::~Appending() {
+  ListBox* const list = list_.Get();
+  if (list && --list->appendings_ == 0) list->ShowAppended();
+}
+
+void ListBox::ShowAppended() {
+  const std::int32_t count = std::exchange(notShown_, 0);
+  if (count > 0 && Observer()) Observer()->RowsAppended(*this, ListCount() - count, count);
+}
+
+std::size_t ListBox::PlaceOf(std::int32_t row) const {
+  if (row < 0 || row >= ListCount()) throw Error(Error::InvalidPropertyValue);
+  return static_cast<std::size_t>(row);
+}
+
+const std::string& ListBox::List(std::int32_t row) const { return rows_[PlaceOf(row)].text; }
+
+std::int32_t ListBox::ItemData(std::int32_t row) const { return rows_[PlaceOf(row)].data; }
+
+void ListBox::ItemData(std::int32_t row, std::int32_t data) { rows_[PlaceOf(row)].data = data; }
 
 void ListBox::ListIndex(std::int32_t row) {
   if (row < -1 || row >= ListCount()) throw Error(Error::InvalidPropertyValue);
+  ShowAppended();
   if (row == -1) {
     if (row_ == -1) return;
     row_ = -1;
@@ -35,11 +68,12 @@ void ListBox::ListIndex(std::int32_t row) {
 }
 
 void ListBox::Text(std::string_view text) {
-  if (text == text_ && (row_ == -1 || text == rows_[static_cast<std::size_t>(row_)])) return;
+  if (text == text_ && (row_ == -1 || text == SelectedText())) return;
   const bool isNew = text != text_;
   text_.assign(text);
+  ShowAppended();
   const Weak<ListBox> self(this);
-  if (row_ != -1 && text_ != rows_[static_cast<std::size_t>(row_)]) {
+  if (row_ != -1 && text_ != SelectedText()) {
     row_ = -1;
     Notify(Aspect::Row);
   }
@@ -51,14 +85,16 @@ void ListBox::Text(std::string_view text) {
 void ListBox::Select(std::int32_t row) {
   const Weak<ListBox> self(this);
   row_ = row;
-  text_ = rows_[static_cast<std::size_t>(row)];
+  text_ = SelectedText();
   Notify(Aspect::Row);
   if (self) Clicked.Raise();
 }
 
 void ListBox::PickRow(std::int32_t row) {
   Perform([this, row] {
-    if (row >= 0 && row < ListCount()) Select(row);
+    if (row < 0 || row >= ListCount()) return;
+    ShowAppended();
+    Select(row);
   });
 }
 
@@ -85,7 +121,7 @@ bool ListBox::TakesKey(const KeyPress& key) {
   if (letter == '\0') return false;
   for (std::int32_t step = 1; step <= ListCount(); ++step) {
     const std::int32_t row = (row_ + step) % ListCount();
-    const std::string& text = rows_[static_cast<std::size_t>(row)];
+    const std::string& text = rows_[static_cast<std::size_t>(row)].text;
     if (text.empty() || KeyPress{text.front(), 0}.Letter() != letter) continue;
     if (row != row_) PickRow(row);
     break;

@@ -22,12 +22,30 @@ class TACTIX_EXPORT ListBox final : public Widget {
   /// Adds a row at the end, or before row `index`; an index outside 0 ... count fails with 5. The selected row stays
   /// selected.
   void AddItem(std::string_view item, std::optional<std::int32_t> index = std::nullopt);
+  /// Adds a row at the end.
+  void Append(std::string item);
   /// Makes room for that many rows in all.
   void Reserve(std::size_t rows) { rows_.reserve(rows); }
+
+  /// While one lives, rows that are added at the end are drawn together: at its end, or when anything else about the
+  /// list changes. Front ends take many rows at once far faster. The list may end before it.
+  class TACTIX_EXPORT Appending {
+   public:
+    explicit Appending(ListBox& list);
+    Appending(const Appending&) = delete;
+    Appending& operator=(const Appending&) = delete;
+    ~Appending();
+
+   private:
+    Weak<ListBox> list_;
+  };
 
   std::int32_t ListCount() const { return static_cast<std::int32_t>(rows_.size()); }
   /// A row outside 0 ... count-1 fails with 380.
   const std::string& List(std::int32_t row) const;
+  /// A number that the control keeps with a row, 0 by default. A row outside 0 ... count-1 fails with 380.
+  std::int32_t ItemData(std::int32_t row) const;
+  void ItemData(std::int32_t row, std::int32_t data);
 
   /// The selected row, -1 for none. Setting it takes the row's text and reports Clicked every time, for the same row
   /// too; -1 deselects silently and leaves the text. Any other row fails with 380 and changes nothing.
@@ -53,10 +71,21 @@ class TACTIX_EXPORT ListBox final : public Widget {
  private:
   bool TakesKey(const KeyPress& key) override;
   void Select(std::int32_t row);
+  /// Has what was added drawn.
+  void ShowAppended();
 
-  std::vector<std::string> rows_;
+  struct Row {
+    std::string text;
+    std::int32_t data = 0;
+  };
+  std::size_t PlaceOf(std::int32_t row) const;
+  const std::string& SelectedText() const { return rows_[static_cast<std::size_t>(row_)].text; }
+
+  std::vector<Row> rows_;
   std::string text_;
   std::int32_t row_ = -1;
+  std::int32_t notShown_ = 0;  // how many rows at the end
+  std::int32_t appendings_ = 0;
 };
 
 }  // namespace tactix

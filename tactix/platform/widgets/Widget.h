@@ -25,7 +25,19 @@ class ToolBar;
 class ToolButton;
 class Widget;
 
-enum class WidgetKind { Extender, Panel, Picture, PushButton, Label, ListBox, Line, ToolBar, SpinButton, Frame };
+enum class WidgetKind {
+  Extender,
+  Panel,
+  Frame,
+  Picture,
+  Line,
+  Label,
+  PushButton,
+  OptionButton,
+  SpinButton,
+  ListBox,
+  ToolBar
+};
 
 /// Bits of the mouse buttons, by addition.
 enum MouseButton : std::int16_t { LeftButton = 1, RightButton = 2, MiddleButton = 4 };
@@ -84,6 +96,10 @@ class TACTIX_EXPORT WidgetObserver {
   virtual ~WidgetObserver() = default;
   virtual void Changed(Widget& widget, Aspect aspect) = 0;
   virtual void RowInserted(ListBox&, std::int32_t) {}
+  /// That many rows were added at the end, the first one here.
+  virtual void RowsAppended(ListBox& list, std::int32_t first, std::int32_t count) {
+    for (std::int32_t row = first; row < first + count; ++row) RowInserted(list, row);
+  }
   virtual void RowsCleared(ListBox&) {}
   virtual void ButtonChanged(ToolBar&, ToolButton&) {}
   /// The widget is being destroyed; the observer forgets it.

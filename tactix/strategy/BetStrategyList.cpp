@@ -1,0 +1,54 @@
+#include "tactix/strategy/BetStrategyList.h"
+
+#include <utility>
+
+#include "tactix/platform/Tolerance.h"
+#include "tactix/strategy/BettingDescription.h"
+#include "tactix/strategy/SavedListProperty.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/StrategyListRules.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr StrategyListRules Rules = {
+    .boxName = "BetStrategyListBox",
+    .toolTip = "Click the down-arrow to open the Betting Strategy List",
+    .highestReportedRow = BetStrategyList::HighestReportedRow,
+    .saved = SavedInFormOrder,
+};
+
+}  // namespace
+
+BetStrategyList::BetStrategyList(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
+
+BetStrategyList::~BetStrategyList() = default;
+
+void BetStrategyList::InputBettingStrategyDescriptions() {
+  try {
+    FillUpTo(Range().HighestBettingStrategy);
+  } catch (const Error& error) {
+    throw Error(error.Code(), "InputBettingStrategyDescriptions", "BettingStrategyList::");
+  }
+}
+
+void BetStrategyList::FillRow(std::int16_t strategy) {
+  const Weak<BetStrategyList> self(this);
+  DescriptionBuffer& buffer = StrategyListData::Buffer();
+  // The playing strategy of the same number, deliberately.
+  bool isEmpty = false;  // also where nobody can be asked
+  PassingOverObjectNotSet([&] { isEmpty = DescribePlaying(strategy).empty(); });
+  if (isEmpty || !self) return;
+  PassingOverObjectNotSet([&] { buffer.Write(DescribeBetting(strategy)); });
+  if (!self) return;
+  if (auto text = BettingRowText(buffer.Text(), strategy)) Box().Append(std::move(*text));
+}
+
+void BetStrategyList::Report(std::int32_t row) {
+  const Weak<BetStrategyList> self(this);
+  if (!quietSelection_) NumberedStrategyList::Report(row);
+  if (self) quietSelection_ = false;
+}
+
+}  // namespace tactix

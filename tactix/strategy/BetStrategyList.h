@@ -1,0 +1,44 @@
+#pragma once
+
+#include "tactix/platform/Export.h"
+#include "tactix/platform/widgets/ListBox.h"
+#include "tactix/strategy/NumberedStrategyList.h"
+
+namespace tactix {
+
+/// A drop-down list from which the player picks a betting strategy. It lists the numbers under which the catalogue has
+/// a playing strategy, too. Unlike the playing lists it does not report what SelectThisStrategy selects.
+class TACTIX_EXPORT BetStrategyList : public NumberedStrategyList {
+ public:
+  explicit BetStrategyList(Site& site);
+  ~BetStrategyList() override;
+
+  /// Refills the box from the catalogue, strategies -1 to the highest betting strategy loaded. Passes over what is not
+  /// set (91); any other error ends it and goes on to the caller under its own code, with the source
+  /// "BettingStrategyList::" and the description "InputBettingStrategyDescriptions". Rows already added stay.
+  void InputBettingStrategyDescriptions();
+
+  /// The next accepted selection raises no event; false by default. SelectThisStrategy sets it, also where the box then
+  /// refuses the row, and the next accepted selection clears it.
+  bool QuietSelection() const { return quietSelection_; }
+
+  /// Rows past this one are shown, but never reported.
+  static constexpr std::int32_t HighestReportedRow = 50;
+
+  struct ChildWidgets {
+    ListBox BetStrategyListBox;
+  } Children;
+
+ protected:
+  ListBox& Box() override { return Children.BetStrategyListBox; }
+  const ListBox& Box() const override { return Children.BetStrategyListBox; }
+  void InputDescriptions() override { InputBettingStrategyDescriptions(); }
+  void SelectionComes() override { quietSelection_ = true; }
+  void Report(std::int32_t row) override;
+  void FillRow(std::int16_t strategy) override;
+
+ private:
+  bool quietSelection_ = false;
+};
+
+}  // namespace tactix

@@ -1,0 +1,77 @@
+#include "tactix/strategy/CountDescription.h"
+
+#include <charconv>
+#include <system_error>
+
+#include "tactix/platform/Error.h"
+#include "tactix/platform/Utf8.h"
+#include "tactix/platform/Variant.h"
+#include "tactix/strategy/FlagText.h"
+#include "tactix/strategy/RowTexts.h"
+#include "tactix/strategy/StrategyListData.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr int HighestCard = 13;
+
+constexpr std::size_t ScrambledWidth = 65;
+
+/// As much of a scrambled text as is looked at.
+std::string_view Scrambled(std::string_view text) {
+  std::string_view rest = text;
+  for (std::size_t i = 0; i < ScrambledWidth && !rest.empty(); ++i) rest.remove_prefix(DecodeUtf8(rest).length);
+  return text.substr(0, text.size() - rest.size());
+}
+
+std::int16_t NumberOf(std::string_view field) {
+  // Nearly all are short and have no sign.
+  std::int16_t number = 0;
+  const char* const end = field.data() + field.size();
+  const bool isPlain = !field.empty() && field.front() >= '0' && field.front() <= '9';
+  const auto [stop, error] = std::from_chars(field.data(), end, number);
+  return isPlain && error == std::errc() && stop == end ? number : Variant(field).ToInteger();
+}
+
+}  // namespace
+
+std::string_view CountDescription::Next(char separator) {
+  const std::size_t end = rest_.find(separator);
+  if (end == std::string_view::npos) throw Error(Error::InvalidProcedureCall);
+  const std::string_view field = rest_.substr(0, end);
+  rest_.remove_prefix(end + 1);
+  return field;
+}
+
+bool CountDescription::ReadTexts(CountStrategyRecord& record, int system) {
+  record.Description = Next(',');
+  if (!Has(',')) {
+    record.Name = UnusableRowText(system);
+    return false;
+  }
+  record.Name = Next(',');
+  // The first flag may be missing, but then so is the blank behind the second.
+  if (Has(' ')) {
+    record.Enciphered = FlagOf(Next(' '));
+    if (record.Enciphered) {
+      record.Description = UnshiftAndTrimStrategyText(Scrambled(record.Description));
+      record.Name = UnshiftStrategyText(Scrambled(record.Name));
+    }
+  }
+  record.Listed = FlagOf(Next(' '));
+  if (!record.Listed) record.Name = NotPresentText;
+  return record.Listed;
+}
+
+void CountDescription::ReadNumbers(CountStrategyRecord& record, int system) {
+  record.CountSetting3 = NumberOf(Next(' '));
+  record.CountSetting4 = NumberOf(Next(' '));
+  record.CountSetting1 = NumberOf(Next(' '));
+  record.CountSetting2 = NumberOf(Next(' '));
+  // Point values go under the number of the system. That is past the four that the record has, so a field here ends
+  // the reading: meant, since the lists are known by it.
+  for (int card = 1; card <= HighestCard && Has(' '); ++card) record.PointValues(system, card, NumberOf(Next(' ')));
+}
+
+}  // namespace tactix

@@ -1,0 +1,163 @@
+#include "tactix/strategy/CountStrategyList.h"
+
+#include <memory>
+#include <string_view>
+
+#include "tactix/platform/Tolerance.h"
+#include "tactix/strategy/CountDescription.h"
+#include "tactix/strategy/SavedListProperty.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/StrategyListRules.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr const SavedListProperty* SavedAfterTheSystem[] = {
+    &SavedBackColor, &SavedForeColor, &SavedToolTipText, &SavedFont, &SavedDefaultContent, &SavedText, &SavedEnabled};
+
+constexpr StrategyListRules Rules = {
+    .text = SelectACountStrategyText,
+    .fontName = {},
+    .highestReportedRow = CountStrategyList::HighestReportedRow,
+    .saved = SavedAfterTheSystem,
+    .failedWrite = OnFailure::Report,
+    .failedResize = OnFailure::Report,
+    .boxSize = BoxSize::Width,
+};
+
+/// The systems as designed, from the lowest number up; the last but one has none.
+constexpr std::string_view DesignNames[] = {"USTON Simple +/-",
+                                            "USTON Advanced +/-",
+                                            "USTON Advanced Point Count",
+                                            "USTON \"SS\"",
+                                            "Kelvo' A - 5 Count",
+                                            "Kelvo' APC",
+                                            "Kelvo' APC2 (Experimental)",
+                                            "Kelvo' SS (in Research)",
+                                            "Kelvo' Clump Count",
+                                            "Kelvo' Clump Track",
+                                            "HI-Opt I",
+                                            "HI-Opt II",
+                                            "Revere +/-",
+                                            "Revere PC",
+                                            "Revere APC",
+                                            "Patterson +/-",
+                                            "Anderson PC",
+                                            "Scoblete PC",
+                                            "Ultimate Count",
+                                            "Canfield Expert",
+                                            "Canfield Master",
+                                            "Snyder's Red-Seven",
+                                            "Snyder's Zen Count",
+                                            "Marshall's Womans Count",
+                                            "Omega II",
+                                            "Alan Wilson's Point Count",
+                                            "Core-Ratio Count!"};
+
+constexpr auto DefaultSystem = static_cast<std::int16_t>(CountStrategyPossibilities::KelvoAPC);
+
+/// What the catalogue is handed at each fill.
+class CountStrategyStore final : public Object {};
+
+std::string Describe(std::int16_t system) {
+  std::string text;
+  StrategyListData::Catalogue().DescribeStrategy(system, text);
+  return text;
+}
+
+}  // namespace
+
+CountStrategyList::CountStrategyList(Site& site) : StrategyListControl(site, Rules) {
+  SetUpBox();
+  for (const std::string_view name : DesignNames) Children.StrategyListBox.AddItem(name);
+}
+
+CountStrategyList::~CountStrategyList() = default;
+
+bool CountStrategyList::Select(std::int32_t system) {
+  const Weak<CountStrategyList> self(this);
+  if (!isFilled_) InputCountStrategyDescriptions();
+  if (!self || system < Lowest || system > Highest) return false;
+  Children.StrategyListBox.ListIndex(system - Lowest);
+  return true;
+}
+
+void CountStrategyList::CountStrategy(Coded<CountStrategyPossibilities> system) {
+  const Weak<CountStrategyList> self(this);
+  if (Select(system.Value()) && self) NotifyChanged("CountStrategy");
+}
+
+const CountStrategyRecord& CountStrategyList::Record(Coded<CountStrategyPossibilities> system) const {
+  if (system < Lowest || system > Highest) throw Error(Error::SubscriptOutOfRange);
+  return records_[static_cast<std::size_t>(system.Value() - Lowest)];
+}
+
+std::int16_t CountStrategyList::CountValue(Coded<CountStrategyPossibilities> forThisCount,
+                                           std::int16_t andThisCard) const {
+  return Record(forThisCount).PointValues(andThisCard, 1);
+}
+
+void CountStrategyList::InputCountStrategyDescriptions() {
+  const Weak<CountStrategyList> self(this);
+  IgnoringErrors([&] {
+    Fill(Lowest, Highest);
+    if (self) isFilled_ = true;
+  });
+}
+
+void CountStrategyList::FillBegins() {
+  description_.clear();
+  store_ = std::make_shared<CountStrategyStore>();
+  PassingOverObjectNotSet([store = store_] { StrategyListData::Catalogue().AttachCountStrategyStore(store); });
+}
+
+void CountStrategyList::FillRow(std::int16_t system) {
+  const Weak<CountStrategyList> self(this);
+  bool isEmpty = false;  // also where nobody can be asked
+  PassingOverObjectNotSet([&] { isEmpty = Describe(system).empty(); });
+  if (isEmpty || !self) return;
+  PassingOverObjectNotSet([&] {
+    std::string text = Describe(system);
+    if (self) description_ = std::move(text);
+  });
+  if (!self) return;
+  CountStrategyRecord& record = records_[static_cast<std::size_t>(system - Lowest)];
+  CountDescription description(description_);
+  const bool isListed = description.ReadTexts(record, system);
+  ListBox& box = Box();
+  box.Append(record.Name);
+  if (!isListed) return;
+  box.ItemData(box.ListCount() - 1, system);
+  description.ReadNumbers(record, system);
+}
+
+void CountStrategyList::Report(std::int32_t row) {
+  auto newStrategySelected = static_cast<std::int16_t>(row - 1 + Lowest);
+  std::string description = Box().Text();
+  Events.StrategySelectionChanged.Raise(newStrategySelected, description);
+}
+
+void CountStrategyList::ReadProperties(PropertyBag& bag) {
+  const Weak<CountStrategyList> self(this);
+  IgnoringErrors([&] {
+    const std::int16_t system = bag.Read("CountStrategy", DefaultSystem).ToInteger();
+    if (self) Select(system);
+  });
+  if (self) StrategyListControl::ReadProperties(bag);
+}
+
+void CountStrategyList::WriteProperties(PropertyBag& bag) {
+  const Weak<CountStrategyList> self(this);
+  bag.Write("CountStrategy", ListIndex(), DefaultSystem);
+  if (self) StrategyListControl::WriteProperties(bag);
+}
+
+const PropertyTable& CountStrategyList::Properties() const {
+  using Self = CountStrategyList;
+  static const PropertyTable table =
+      CommonProperties().Property<Self>("CountStrategy", &Self::CountStrategy, &Self::CountStrategy);
+  return table;
+}
+
+}  // namespace tactix

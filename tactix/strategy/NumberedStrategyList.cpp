@@ -1,0 +1,39 @@
+#include "tactix/strategy/NumberedStrategyList.h"
+
+#include "tactix/strategy/RowTexts.h"
+#include "tactix/strategy/StrategyListData.h"
+
+namespace tactix {
+
+void NumberedStrategyList::SelectThisStrategy(std::int16_t strategy) {
+  // Not ">=": the count itself goes on to the box, which refuses it.
+  if (strategy > Box().ListCount()) return;
+  SelectionComes();
+  ListIndex(strategy);
+}
+
+void NumberedStrategyList::Report(std::int32_t row) {
+  std::int32_t newStrategySelected = row - 1;
+  Events.StrategySelectionChanged.Raise(newStrategySelected);
+}
+
+void NumberedStrategyList::FillUpTo(std::int16_t highest) { Fill(EmptySeat, highest); }
+
+// A catalogue may write to the number that it is asked for.
+
+std::string NumberedStrategyList::DescribePlaying(std::int16_t strategy) {
+  return StrategyListData::Catalogue().DescribeStrategy(strategy);
+}
+
+std::string NumberedStrategyList::DescribeBetting(std::int16_t strategy) {
+  return StrategyListData::Catalogue().DescribeBettingStrategy(strategy);
+}
+
+const PropertyTable& NumberedStrategyList::Properties() const {
+  using Self = NumberedStrategyList;
+  static const PropertyTable table =
+      CommonProperties().Property<Self>("SelectThisStrategy", &Self::SelectThisStrategy, &Self::SelectThisStrategy);
+  return table;
+}
+
+}  // namespace tactix

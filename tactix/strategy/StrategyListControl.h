@@ -1,0 +1,113 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "tactix/platform/Control.h"
+#include "tactix/platform/Export.h"
+#include "tactix/platform/PropertyTable.h"
+#include "tactix/platform/widgets/ListBox.h"
+#include "tactix/shared/Coded.h"
+#include "tactix/shared/Enumerations.h"
+#include "tactix/strategy/StrategyCatalogue.h"
+
+namespace tactix {
+
+struct StrategyListRules;
+
+/// What the drop-down lists of strategies have in common. Each fills itself from the strategy catalogue, refuses a "Not
+/// Present" row with a beep, and reports every other row that is selected, by a user or from code.
+class TACTIX_EXPORT StrategyListControl : public Control {
+ public:
+  /// Adds a row of the host's own, at the end or before row `index`; an index outside 0 ... count fails with 5.
+  void AddItem(std::string_view item, std::optional<std::int32_t> index = std::nullopt);
+
+  /// The box's look. Each is saved and notified under its own name. Defaults: system window colours, enabled, the
+  /// ambient font, and the empty text and tool tip (a stored empty text leaves the design text).
+  Color BackColor() const;
+  void BackColor(Color color);
+  Color ForeColor() const;
+  void ForeColor(Color color);
+  bool Enabled() const;
+  void Enabled(bool enabled);
+  const tactix::Font& Font() const;
+  void Font(const tactix::Font& font);
+  const std::string& Text() const;
+  void Text(std::string_view text);
+  const std::string& ToolTipText() const;
+  void ToolTipText(std::string_view text);
+  /// The same text under another name: saved, but not read back.
+  const std::string& DefaultContent() const;
+  void DefaultContent(std::string_view text);
+
+  /// A tag for the host, IsNotYetAssigned by default; neither saved nor used here.
+  Coded<TypeOfStrategyControl> ControlType() const { return controlType_; }
+  void ControlType(Coded<TypeOfStrategyControl> type) { controlType_ = type; }
+
+  /// The selected row - 1, so -2 when no row is selected. Setting it selects its row and reports that; a row that the
+  /// box does not have fails with 380. Reading a row past 32768 fails with 6.
+  std::int16_t ListIndex() const;
+  void ListIndex(std::int16_t strategy);
+
+  std::int16_t Style() const;
+  /// Whether the box is shown; not saved.
+  bool Visible() const;
+  void Visible(bool visible);
+
+  /// Loads the catalogue's range, then fills. Fails where the range cannot be had: without a catalogue with 91.
+  void LoadStrategiesFromIniFile();
+  /// Keeps the host's collection and its Count.
+  void UseThisStrategyList(const ObjectRef& thisStrategyList);
+  /// The Count of the collection last handed over, 0 by default.
+  std::int16_t StrategyCount() const { return strategyCount_; }
+  /// The last row that a selection has accepted, 0 by default.
+  std::int32_t LastGoodListIndex() const { return lastGoodListIndex_; }
+
+  void ReadProperties(PropertyBag& bag) override;
+  void WriteProperties(PropertyBag& bag) override;
+  void Resized() override;
+  void Terminated() override;
+
+ protected:
+  /// The rules must outlive the list.
+  StrategyListControl(Site& site, const StrategyListRules& rules);
+
+  virtual ListBox& Box() = 0;
+  virtual const ListBox& Box() const = 0;
+  /// Fills the box, as the list's public method of another name does.
+  virtual void InputDescriptions() = 0;
+  /// The box has been cleared, and nothing added yet.
+  virtual void FillBegins() {}
+  /// Describes one number and adds its row, if it gets one. The catalogue may destroy the list.
+  virtual void FillRow(std::int16_t number) = 0;
+  /// A row was accepted.
+  virtual void Report(std::int32_t row) = 0;
+
+  /// For the constructors of the lists.
+  void SetUpBox();
+  /// Clears, fills the rows of the numbers first ... last, and sets the text. An error ends it where it stands.
+  void Fill(std::int32_t first, std::int32_t last);
+  const StrategyRange& Range() const { return range_; }
+  /// The number being filled; after a fill, the last one visited.
+  std::int16_t FilledNumber() const { return filledNumber_; }
+
+  static PropertyTable CommonProperties();
+
+ private:
+  void ReportTheStrategySelection();
+  void GoBackToTheLastGoodRow();
+  void LoadTheStrategyRange();
+
+  const StrategyListRules& rules_;
+  ObjectRef heldCollection_;
+  StrategyRange range_;
+  Coded<TypeOfStrategyControl> controlType_;
+  std::int32_t lastGoodListIndex_ = 0;
+  std::int16_t strategyCount_ = 0;
+  std::int16_t filledNumber_ = 0;
+  bool refusing_ = false;
+};
+
+}  // namespace tactix

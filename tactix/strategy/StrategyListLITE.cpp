@@ -1,0 +1,42 @@
+#include "tactix/strategy/StrategyListLITE.h"
+
+#include "tactix/platform/Tolerance.h"
+#include "tactix/strategy/PlayingDescription.h"
+#include "tactix/strategy/SavedListProperty.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/StrategyListRules.h"
+
+namespace tactix {
+
+namespace {
+
+constexpr StrategyListRules Rules = {
+    .highestReportedRow = StrategyListLITE::HighestReportedRow,
+    .saved = SavedInFormOrder,
+    .failedRead = OnFailure::Report,
+    .failedWrite = OnFailure::Report,
+    .failedResize = OnFailure::Report,
+    .atTheEnd = AtTheEnd::ReleaseTheCollection,
+};
+
+}  // namespace
+
+StrategyListLITE::StrategyListLITE(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
+
+StrategyListLITE::~StrategyListLITE() = default;
+
+void StrategyListLITE::InputPlayingStrategyDescriptions() {
+  IgnoringErrors([this] { FillUpTo(Range().HighestPlayingStrategy); });
+}
+
+void StrategyListLITE::FillRow(std::int16_t strategy) {
+  const Weak<StrategyListLITE> self(this);
+  DescriptionBuffer& buffer = StrategyListData::Buffer();
+  bool isEmpty = false;  // also where nobody can be asked
+  PassingOverObjectNotSet([&] { isEmpty = DescribePlaying(strategy).empty(); });
+  if (isEmpty || !self) return;
+  PassingOverObjectNotSet([&] { buffer.Write(DescribePlaying(strategy)); });
+  if (self) Box().Append(CompactRowText(buffer.Text(), strategy));
+}
+
+}  // namespace tactix

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "tactix/strategy/RowTexts.h"
+
+namespace tactix {
+
+struct SavedListProperty;
+
+enum class OnFailure { PassOver, Report };
+
+enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
+
+enum class BoxSize { Width, WidthAndHeight };
+
+/// What a strategy list does differently from the others, apart from how it fills and what it reports.
+struct StrategyListRules {
+  std::string_view boxName = "StrategyListBox";
+  std::string_view text = SelectAStrategyText;
+  std::string_view toolTip = {};
+  /// Empty for the platform's.
+  std::string_view fontName = "Comic Sans MS";
+  /// Rows past this one are shown, but never reported.
+  std::int32_t highestReportedRow;
+  /// Written in this order, and read in it as far as they are read.
+  std::span<const SavedListProperty* const> saved;
+  OnFailure failedRead = OnFailure::PassOver;
+  OnFailure failedWrite = OnFailure::PassOver;
+  OnFailure failedResize = OnFailure::PassOver;
+  /// What of the control's size the box takes.
+  BoxSize boxSize = BoxSize::WidthAndHeight;
+  AtTheEnd atTheEnd = AtTheEnd::KeepTheCollection;
+};
+
+}  // namespace tactix
