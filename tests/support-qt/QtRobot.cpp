@@ -272,6 +272,8 @@ class QtRobot final : public Robot, private QObject {
     const std::optional<QPoint> place = pair ? ReachablePlace((pair->*half)()) : std::nullopt;
     if (!place) return;
     if (by == SpinBy::Mouse) {
+      // A click is no holding, however slow the machine is.
+      (pair->*half)().setAutoRepeat(false);
       ClickAt(*window_, *place);
     } else if (by == SpinBy::Wheel) {
       TurnWheel(*window_, *place,
