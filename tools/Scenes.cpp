@@ -36,7 +36,7 @@ using WidgetRef = std::unique_ptr<QWidget>;
 
 constexpr std::int16_t BasicStrategy = 0;
 constexpr std::uint64_t Seed = 7;
-constexpr QSize TrainerSize(960, 760);
+constexpr QSize TrainerSize(960, 820);
 constexpr QSize ColumnSize(100, 660);
 constexpr int NarrowWidth = 480;
 // Twips. A mounted spin counter stands 360 pixels apart from its number.

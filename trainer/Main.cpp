@@ -7,7 +7,6 @@
 
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
-#include "tactix/strategy/StrategyListData.h"
 #include "trainer/engine/Session.h"
 #include "trainer/screens/CommandLine.h"
 #include "trainer/screens/Demo.h"
@@ -46,7 +45,6 @@ void DoWithoutDisplay(const QString& runtimeFolder) {
 int Run(const CommandLine& line) {
   const auto catalogue = std::make_shared<tactix::companion::IniStrategyCatalogue>(
       tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName);
-  tactix::StrategyListData::UseCatalogue(catalogue);
   trainer::screens::TrainerWindow window(trainer::engine::Session(line.rules, line.seed), catalogue);
   if (line.demo) return trainer::screens::Demo(window, *line.demo, std::cout).Run() ? EXIT_SUCCESS : EXIT_FAILURE;
   window.show();

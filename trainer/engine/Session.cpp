@@ -28,6 +28,11 @@ void Session::Deal() {
   CountIfOver();
 }
 
+void Session::Bet(Money bet) {
+  if (bet < 1 || bet > Round::MaximumBet || bet % 2 != 0) throw std::invalid_argument("no such bet");
+  bet_ = bet;
+}
+
 void Session::Shuffle() {
   shoe_.Shuffle();
   dealer_.Forget();
@@ -73,7 +78,9 @@ void Session::CountIfOver() {
   const Money net = round_->Net();
   tally_.net += net;
   dealer_.Add(round_->DealerHand());
-  roundsAhead_ += net > 0 ? 1 : net < 0 ? -1 : 0;
+  const int step = net > 0 ? 1 : net < 0 ? -1 : 0;
+  roundsAhead_ += step;
+  if (step != 0) run_ = (run_ > 0) == (step > 0) ? run_ + step : step;
   predictions_.Forget();
 }
 

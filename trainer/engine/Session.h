@@ -52,6 +52,10 @@ class Session {
   /// Throws std::logic_error before the first deal.
   [[nodiscard]] const Round& CurrentRound() const;
 
+  /// What each hand is played for from the next round on. Throws std::invalid_argument for a bet that Round refuses.
+  void Bet(Money bet);
+  [[nodiscard]] Money CurrentBet() const { return bet_; }
+
   /// What the strategy advises for the active hand. Throws std::logic_error when the round is over.
   [[nodiscard]] Decision Advised() const;
   /// Plays and judges the decision; nothing, and no change, if it is not legal or the round is over.
@@ -77,6 +81,10 @@ class Session {
   /// Rounds since the shuffle that the player has won, less those that the dealer has.
   [[nodiscard]] int RoundsAhead() const { return roundsAhead_; }
 
+  /// How the last rounds ended for the player: 3 after three wins in a row, -2 after two losses, 0 before the first.
+  /// Pushes leave it as it is; a shuffle does, too.
+  [[nodiscard]] int Run() const { return run_; }
+
   [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
   [[nodiscard]] const Rules& TheRules() const { return rules_; }
   [[nodiscard]] const Shoe& TheShoe() const { return shoe_; }
@@ -93,6 +101,7 @@ class Session {
   std::optional<Round> round_;
   engine::Predictions predictions_;
   Tally tally_;
+  int run_ = 0;
   DealerRecord dealer_;
   int roundsAhead_ = 0;
   bool isCounted_ = false;

@@ -8,12 +8,16 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "tactix/companion/Companion.h"
+#include "tactix/strategy/StrategyListData.h"
 #include "trainer/engine/Words.h"
 #include "trainer/screens/CountDrillDialog.h"
 #include "trainer/screens/HandBlock.h"
 #include "trainer/screens/Messages.h"
 #include "trainer/screens/ScoreBar.h"
 #include "trainer/screens/Scoreboard.h"
+#include "trainer/screens/StatisticsBlock.h"
+#include "trainer/screens/StrategyBar.h"
 #include "trainer/screens/TableOf.h"
 #include "trainer/screens/TableStrategy.h"
 #include "trainer/screens/TableView.h"
@@ -22,11 +26,22 @@ namespace trainer::screens {
 
 namespace {
 
-constexpr QSize FirstSize(1000, 860);
+constexpr QSize FirstSize(1000, 900);
 /// Counted with at first: simple, and widely known.
 constexpr int FirstCountSystem = 21;
+constexpr int FlatBet = 0;
+constexpr engine::Money BetUnit = 1000;
 /// A little less than an advised button flashes.
 constexpr qint64 FlashMilliseconds = 1500;
+
+using tactix::companion::IniStrategyCatalogue;
+
+/// What the controls need of their host, before the first of them is made.
+std::shared_ptr<IniStrategyCatalogue> Installed(std::shared_ptr<IniStrategyCatalogue> catalogue) {
+  tactix::companion::Install();
+  tactix::StrategyListData::UseCatalogue(catalogue);
+  return catalogue;
+}
 
 QString RangeText(engine::CardRange range) {
   switch (range) {
@@ -47,14 +62,14 @@ QString GuessText(const QString& card, std::optional<engine::CardRange> range) {
 
 }  // namespace
 
-TrainerWindow::TrainerWindow(engine::Session session,
-                             std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue, QWidget* parent)
+TrainerWindow::TrainerWindow(engine::Session session, std::shared_ptr<IniStrategyCatalogue> catalogue, QWidget* parent)
     : QMainWindow(parent),
       session_(std::move(session)),
-      catalogue_(std::move(catalogue)),
+      catalogue_(Installed(std::move(catalogue))),
       table_(new TableView(this)),
       score_(new ScoreBar(this)),
       board_(new Scoreboard(this)),
+      strategies_(new StrategyBar(this)),
       countSystem_(engine::FindCountSystem(FirstCountSystem)),
       box_(new BoxInput(this)),
       toolBar_(new ToolBarInput(this)),
@@ -63,6 +78,7 @@ TrainerWindow::TrainerWindow(engine::Session session,
   auto* const central = new QWidget(this);
   auto* const layout = new QVBoxLayout(central);
   layout->addWidget(table_, 1);
+  layout->addWidget(strategies_);
   layout->addWidget(board_);
   layout->addWidget(score_);
   layout->addWidget(box_);
@@ -77,6 +93,19 @@ TrainerWindow::TrainerWindow(engine::Session session,
   MakeDrillMenu();
   Connect(*box_);
   Connect(*toolBar_);
+  const auto picks = [this](void (StrategyBar::*signal)(int), void (TrainerWindow::*follow)(int)) {
+    connect(strategies_, signal, this, [this, follow](int number) {
+      (this->*follow)(number);
+      // The letters are plays again. Later: the list is still at work.
+      QMetaObject::invokeMethod(
+          this, [this] { input_->setFocus(); }, Qt::QueuedConnection);
+    });
+  };
+  picks(&StrategyBar::PlayingPicked, &TrainerWindow::FollowStrategy);
+  picks(&StrategyBar::BettingPicked, &TrainerWindow::BetBy);
+  picks(&StrategyBar::CountPicked, &TrainerWindow::CountBy);
+  strategies_->Counts().CountStrategy(tactix::qt::CountStrategyList::HIOpt1);
+  strategies_->Betting().SelectThisStrategy(FlatBet);
   ShowScore();
 }
 
@@ -137,6 +166,7 @@ void TrainerWindow::Connect(const DecisionInput& input) {
 }
 
 void TrainerWindow::Deal() {
+  SizeTheBet();
   session_.Deal();
   const bool over = session_.IsOver();
   ShowTable(ThenGoOn(over ? DealtRoundText(session_.CurrentRound(), session_.TheRules()) : QString()));
@@ -262,10 +292,37 @@ void TrainerWindow::FollowStrategy(int number) {
   }
   const std::string caption(catalogue_->CaptionOf(strategy));
   strategy_ = ToQt(caption);
+  strategies_->Marquee().SelectThisStrategy(true);
   session_.Follow(std::make_shared<TableStrategy>(caption, *table));
   box_->NameStrategy(strategy_);
   if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("The advice now follows %1.").arg(strategy_)));
   if (!session_.IsOver()) Ask();
+}
+
+void TrainerWindow::BetBy(int number) {
+  plan_ = catalogue_->BettingPlanOf(static_cast<std::int16_t>(number));
+  const QString caption = ToQt(catalogue_->BettingCaptionOf(static_cast<std::int16_t>(number)));
+  if (!session_.HasRound()) return;
+  ShowTable(ThenGoOn(plan_ ? QStringLiteral("The next bet is sized by %1.").arg(caption)
+                           : QStringLiteral("No such betting strategy; the next bet is one unit.")));
+}
+
+void TrainerWindow::SizeTheBet() {
+  int units = 1;
+  if (plan_) {
+    tactix::companion::StrategyDataBlock shoe;
+    FillStatistics(session_, *countSystem_, shoe);
+    // A shoe that is about to be shuffled has no count.
+    units = plan_->UnitsFor(session_.TheShoe().NeedsShuffle() ? 0 : shoe.TrueCount, session_.Run());
+  }
+  session_.Bet(units * BetUnit);
+}
+
+void TrainerWindow::CountBy(int number) {
+  const engine::CountSystem* const system = engine::FindCountSystem(number);
+  if (!system) return;
+  countSystem_ = system;
+  board_->ShowShoe(session_, *countSystem_);
 }
 
 void TrainerWindow::Burn() {

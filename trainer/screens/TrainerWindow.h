@@ -18,6 +18,7 @@ namespace trainer::screens {
 
 class ScoreBar;
 class Scoreboard;
+class StrategyBar;
 class TableView;
 
 /// With what the player plays.
@@ -38,8 +39,9 @@ class TrainerWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `catalogue` is where the strategies in the box's list come from.
-  TrainerWindow(engine::Session session, std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue,
+  /// `catalogue` is where strategies come from; the whole process uses it from now on, and companion's defaults for
+  /// what else controls need of a host.
+  TrainerWindow(engine::Session session, std::shared_ptr<tactix::companion::IniStrategyCatalogue> catalogue,
                 QWidget* parent = nullptr);
 
   [[nodiscard]] const engine::Session& CurrentSession() const { return session_; }
@@ -48,6 +50,7 @@ class TrainerWindow : public QMainWindow {
   TableView& Table() { return *table_; }
   ScoreBar& Score() { return *score_; }
   Scoreboard& Board() { return *board_; }
+  StrategyBar& Strategies() { return *strategies_; }
 
   /// The box at first. The View menu does the same.
   void PlayWith(InputKind kind);
@@ -78,6 +81,10 @@ class TrainerWindow : public QMainWindow {
   void Burn();
   void CopyHand();
   void FollowStrategy(int number);
+  void BetBy(int number);
+  void CountBy(int number);
+  /// By the betting strategy, for the round to come.
+  void SizeTheBet();
 
   engine::Session session_;
   std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue_;
@@ -87,6 +94,8 @@ class TrainerWindow : public QMainWindow {
   TableView* table_;
   ScoreBar* score_;
   Scoreboard* board_;
+  StrategyBar* strategies_;
+  const tactix::companion::BettingPlan* plan_ = nullptr;  // null for flat bets
   const engine::CountSystem* countSystem_;
   BoxInput* box_;
   ToolBarInput* toolBar_;

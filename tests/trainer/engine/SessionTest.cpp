@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
@@ -198,6 +199,37 @@ TEST(SessionTest, KeepsTheDealersRecordUntilTheShuffle) {
     ASSERT_DOUBLE_EQ(session.TheDealer().EndingTotal(), expected.EndingTotal());
   }
   EXPECT_GT(shuffles, 3);
+}
+
+TEST(SessionTest, KeepsTheRunOfWinsAndLosses) {
+  Session session(Rules{}, 6);
+  EXPECT_EQ(session.Run(), 0);
+  int run = 0;
+  int longest = 0;
+  for (int i = 0; i < 200; ++i) {
+    session.Deal();
+    while (!session.IsOver()) session.Decide(Decision::Stand);
+    const Money net = session.CurrentRound().Net();
+    if (net > 0) run = run > 0 ? run + 1 : 1;
+    if (net < 0) run = run < 0 ? run - 1 : -1;
+    ASSERT_EQ(session.Run(), run);
+    longest = std::max(longest, run);
+  }
+  EXPECT_GT(longest, 2);
+}
+
+TEST(SessionTest, ABetHoldsFromTheNextRound) {
+  Session session(Rules{}, 6);
+  EXPECT_EQ(session.CurrentBet(), 1000);
+  DealToADecision(session);
+  session.Bet(4000);
+  EXPECT_EQ(session.CurrentRound().ActiveHand().bet, 1000);
+  DealToADecision(session);
+  EXPECT_EQ(session.CurrentRound().ActiveHand().bet, 4000);
+  for (const Money bet : {Money{0}, Money{-2}, Money{3}, Round::MaximumBet + 2}) {
+    EXPECT_THROW(session.Bet(bet), std::invalid_argument) << bet;
+  }
+  EXPECT_EQ(session.CurrentBet(), 4000);
 }
 
 TEST(SessionTest, TheHoleCardIsNotSeenForTheTensRatio) {

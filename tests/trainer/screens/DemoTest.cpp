@@ -120,7 +120,7 @@ TEST(DemoTest, WritesPicturesOfTheWindow) {
   for (const QString& name : names) {
     SCOPED_TRACE(name.toStdString());
     const QImage picture(folder.filePath(name));
-    EXPECT_EQ(picture.size(), QSize(1000, 860) * qApp->devicePixelRatio());
+    EXPECT_EQ(picture.size(), QSize(1000, 900) * qApp->devicePixelRatio());
     EXPECT_GT(CountPixels(picture, QColor(0xFD, 0xFC, 0xF8)), 0) << "cards lie on the table";
     EXPECT_NE(picture, last) << "something has changed";
     last = picture;

@@ -54,7 +54,7 @@ TEST_F(TrainerAdviceTest, ThePickedStrategyAdvisesAndJudgesTheSameHand) {
   const engine::Rank upCard = Session().CurrentRound().UpCard();
   EXPECT_EQ(Session().Advised(), Play::Hit);
   ChooseFrom("cmdAdviceButton", QStringLiteral("&Select Strategy"), tactix::RightButton);
-  auto& list = Find<QComboBox>("StrategyListBox");
+  auto& list = StrategyBox();
   EXPECT_TRUE(list.isVisible());
   ASSERT_GE(RowOf(QStringLiteral("Never Bust")), 0);
   tactix::tests::PickByMouse(list, RowOf(QStringLiteral("Never Bust")));

@@ -42,9 +42,7 @@ class TrainerAtWork : public testing::Test {
  protected:
   TrainerAtWork()
       : catalogue_(std::make_shared<tactix::companion::IniStrategyCatalogue>(
-            tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName)) {
-    tactix::StrategyListData::UseCatalogue(catalogue_);
-  }
+            tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName)) {}
   ~TrainerAtWork() override { tactix::StrategyListData::UseCatalogue(nullptr); }
 
   void Open(std::uint64_t seed, const engine::Rules& rules = {}) {
@@ -86,7 +84,9 @@ class TrainerAtWork : public testing::Test {
     });
     Click(name, button);
   }
-  int RowOf(const QString& text) { return Find<QComboBox>("StrategyListBox").findText(text); }
+  /// The list in the decision box.
+  QComboBox& StrategyBox() { return *window_->Box().findChild<QComboBox*>(QStringLiteral("StrategyListBox")); }
+  int RowOf(const QString& text) { return StrategyBox().findText(text); }
 
   const engine::Session& Session() const { return window_->CurrentSession(); }
   const TableModel& Table() const { return window_->Table().Model(); }

@@ -140,7 +140,7 @@ TEST_F(TrainerWindowTest, OpensAtItsOwnSizeReadyForKeys) {
   ASSERT_TRUE(focused);
   EXPECT_TRUE(window_->Box().isAncestorOf(focused));
   EXPECT_FALSE(qobject_cast<const QPushButton*>(focused)) << "Space must not press anything yet";
-  EXPECT_EQ(window_->size(), QSize(1000, 860));
+  EXPECT_EQ(window_->size(), QSize(1000, 900));
 }
 
 }  // namespace

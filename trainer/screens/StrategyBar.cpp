@@ -1,0 +1,49 @@
+#include "trainer/screens/StrategyBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace trainer::screens {
+
+StrategyBar::StrategyBar(QWidget* parent)
+    : QWidget(parent),
+      marquee_(new tactix::qt::StrategyMarquix(this)),
+      betting_(new tactix::qt::BetStrategyList(this)),
+      counts_(new tactix::qt::CountStrategyList(this)) {
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  marquee_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  row->addWidget(marquee_, 1, Qt::AlignCenter);
+  row->addWidget(WithCaption(QStringLiteral("Betting strategy"), betting_), 1, Qt::AlignCenter);
+  row->addWidget(WithCaption(QStringLiteral("Count system"), counts_), 1, Qt::AlignCenter);
+
+  marquee_->Caption(QStringLiteral("Seat 1"));
+  marquee_->ControlType(tactix::qt::StrategyMarquix::IsAPlayingMarquix);
+  marquee_->LoadStrategiesFromIniFile();
+  betting_->LoadStrategiesFromIniFile();
+  counts_->LoadStrategiesFromIniFile();
+  using tactix::qt::BetStrategyList;
+  using tactix::qt::CountStrategyList;
+  using tactix::qt::StrategyMarquix;
+  connect(marquee_, &StrategyMarquix::StrategySelectionChanged, this, &StrategyBar::PlayingPicked);
+  connect(betting_, &BetStrategyList::StrategySelectionChanged, this, &StrategyBar::BettingPicked);
+  // The event's number is one less than the system's.
+  connect(counts_, &CountStrategyList::StrategySelectionChanged, this,
+          [this](int number) { Q_EMIT CountPicked(number + 1); });
+}
+
+QWidget* StrategyBar::WithCaption(const QString& caption, QWidget* list) {
+  auto* const cell = new QWidget(this);
+  auto* const column = new QVBoxLayout(cell);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* const label = new QLabel(caption, cell);
+  label->setAlignment(Qt::AlignCenter);
+  label->setBuddy(list);
+  column->addWidget(label);
+  list->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  column->addWidget(list, 0, Qt::AlignCenter);
+  return cell;
+}
+
+}  // namespace trainer::screens

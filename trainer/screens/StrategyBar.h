@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QWidget>
+
+#include "tactix-qt/BetStrategyList.h"
+#include "tactix-qt/CountStrategyList.h"
+#include "tactix-qt/StrategyMarquix.h"
+
+namespace trainer::screens {
+
+/// Where the player chooses strategies: a marquee for the one that gives advice at the seat, a list for the one that
+/// sizes the bet, and a list for the system that counts.
+class StrategyBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Fills itself from the strategy catalogue that the process uses.
+  explicit StrategyBar(QWidget* parent = nullptr);
+
+  tactix::qt::StrategyMarquix& Marquee() { return *marquee_; }
+  tactix::qt::BetStrategyList& Betting() { return *betting_; }
+  tactix::qt::CountStrategyList& Counts() { return *counts_; }
+
+ Q_SIGNALS:
+  void PlayingPicked(int number);
+  void BettingPicked(int number);
+  void CountPicked(int number);
+
+ private:
+  QWidget* WithCaption(const QString& caption, QWidget* list);
+
+  tactix::qt::StrategyMarquix* marquee_;
+  tactix::qt::BetStrategyList* betting_;
+  tactix::qt::CountStrategyList* counts_;
+};
+
+}  // namespace trainer::screens
