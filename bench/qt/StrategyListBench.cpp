@@ -1,10 +1,16 @@
-// Filling the lists, beside a QComboBox that is filled from the same descriptions and one that gets the row texts
-// ready.
+// Filling the lists, beside a QComboBox that is filled from the same descriptions, one that gets the row texts ready,
+// and the list itself with ten times the strategies. All are filled turn and turn about, so that what else the machine
+// does falls on all alike; the counters are medians of the ratios.
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
 #include <QComboBox>
+#include <algorithm>
+#include <ctime>
+#include <functional>
+#include <memory>
+#include <vector>
 
 #include "bench/qt/HandWrittenLists.h"
 #include "bench/support/TextCatalogue.h"
@@ -19,101 +25,92 @@ namespace {
 using tactix::StrategyCatalogue;
 using tactix::StrategyListData;
 using tactix::bench::TextCatalogue;
-
-constexpr int Strategies = 55;
-constexpr int Tenfold = 10 * Strategies;
-constexpr int Counts = 28;
-
-/// Fills a list that is shown again and again.
-template <class List>
-void FillList(benchmark::State& state, int strategies, int rows) {
-  StrategyListData::UseCatalogue(std::make_shared<TextCatalogue>(strategies));
-  List list;
-  list.show();
-  QApplication::processEvents();
-  for (auto _ : state) list.LoadStrategiesFromIniFile();
-  if (list.template findChild<QComboBox*>()->count() != rows) state.SkipWithError("not filled");
-}
-
-/// The same for a box of one's own.
-template <class Fill>
-void FillBox(benchmark::State& state, int rows, const Fill& fill) {
-  QComboBox box;
-  box.resize(161, 26);
-  box.show();
-  QApplication::processEvents();
-  for (auto _ : state) fill(box);
-  if (box.count() != rows) state.SkipWithError("not filled");
-}
-
 using HandWritten = void (*)(QComboBox&, StrategyCatalogue&);
 
-void FillFromDescriptions(benchmark::State& state, HandWritten fill, int strategies, int rows) {
-  TextCatalogue catalogue(strategies);
-  FillBox(state, rows, [&](QComboBox& box) { fill(box, catalogue); });
+constexpr int Strategies = 55;
+constexpr int FillsAtATime = 20;
+
+/// Processor seconds of one fill.
+double TimeOf(const std::function<void()>& fill) {
+  const auto now = [] {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+  };
+  const double start = now();
+  for (int i = 0; i < FillsAtATime; ++i) fill();
+  return (now() - start) / FillsAtATime;
 }
 
-void FillFromTexts(benchmark::State& state, HandWritten fill, int strategies, int rows) {
-  TextCatalogue catalogue(strategies);
-  QComboBox described;
-  fill(described, catalogue);
-  QStringList texts;
-  for (int row = 0; row < described.count(); ++row) texts += described.itemText(row);
-  FillBox(state, rows, [&](QComboBox& box) { tactix::bench::FillWithTexts(box, texts); });
+double MedianOf(std::vector<double> values) {
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
 }
 
-// The seat has a row, too.
+/// A box as the lists have it.
+std::unique_ptr<QComboBox> MakeBox() {
+  auto box = std::make_unique<QComboBox>();
+  box->resize(161, 26);
+  box->show();
+  return box;
+}
+
+QStringList RowsOf(const QComboBox& box) {
+  QStringList rows;
+  for (int row = 0; row < box.count(); ++row) rows += box.itemText(row);
+  return rows;
+}
+
+template <class List>
+void Compare(benchmark::State& state, HandWritten byHand) {
+  const auto catalogue = std::make_shared<TextCatalogue>(Strategies);
+  const auto tenfold = std::make_shared<TextCatalogue>(10 * Strategies);
+  List list;
+  list.show();
+  const auto described = MakeBox();
+  const auto bare = MakeBox();
+  QApplication::processEvents();
+  byHand(*described, *catalogue);
+  const QStringList texts = RowsOf(*described);
+  StrategyListData::UseCatalogue(catalogue);
+  list.LoadStrategiesFromIniFile();
+  if (RowsOf(*list.template findChild<QComboBox*>()) != texts) return state.SkipWithError("filled with other rows");
+
+  std::vector<double> besideDescribed;
+  std::vector<double> besideBare;
+  std::vector<double> tenfoldBeside;
+  const auto load = [&list] { list.LoadStrategiesFromIniFile(); };
+  for (auto _ : state) {
+    const double time = TimeOf(load);
+    besideDescribed.push_back(time / TimeOf([&] { byHand(*described, *catalogue); }));
+    besideBare.push_back(time / TimeOf([&] { tactix::bench::FillWithTexts(*bare, texts); }));
+    StrategyListData::UseCatalogue(tenfold);
+    tenfoldBeside.push_back(TimeOf(load) / time);
+    StrategyListData::UseCatalogue(catalogue);
+    state.SetIterationTime(time);
+  }
+  state.counters["described"] = MedianOf(besideDescribed);
+  state.counters["bare"] = MedianOf(besideBare);
+  state.counters["tenfold"] = MedianOf(tenfoldBeside);
+}
+
 void FillStrategyListOnQt(benchmark::State& state) {
-  FillList<tactix::qt::StrategyList>(state, Strategies, Strategies + 1);
-}
-void FillStrategyListTenfoldOnQt(benchmark::State& state) {
-  FillList<tactix::qt::StrategyList>(state, Tenfold, Tenfold + 1);
+  Compare<tactix::qt::StrategyList>(state, tactix::bench::FillWithStrategies);
 }
 void FillCompactListOnQt(benchmark::State& state) {
-  FillList<tactix::qt::StrategyListLITE>(state, Strategies, Strategies + 1);
-}
-void FillCompactListTenfoldOnQt(benchmark::State& state) {
-  FillList<tactix::qt::StrategyListLITE>(state, Tenfold, Tenfold + 1);
+  Compare<tactix::qt::StrategyListLITE>(state, tactix::bench::FillWithStrategies);
 }
 void FillBettingListOnQt(benchmark::State& state) {
-  FillList<tactix::qt::BetStrategyList>(state, Strategies, Strategies + 1);
+  Compare<tactix::qt::BetStrategyList>(state, tactix::bench::FillWithBets);
 }
-void FillBettingListTenfoldOnQt(benchmark::State& state) {
-  FillList<tactix::qt::BetStrategyList>(state, Tenfold, Tenfold + 1);
+/// There are 28 count systems, however many strategies.
+void FillCountListOnQt(benchmark::State& state) {
+  Compare<tactix::qt::CountStrategyList>(state, tactix::bench::FillWithCounts);
 }
-void FillCountListOnQt(benchmark::State& state) { FillList<tactix::qt::CountStrategyList>(state, Strategies, Counts); }
-BENCHMARK(FillStrategyListOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillStrategyListTenfoldOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillCompactListOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillCompactListTenfoldOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillBettingListOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillBettingListTenfoldOnQt)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillCountListOnQt)->Unit(benchmark::kMicrosecond);
-
-void FillComboBoxWithStrategies(benchmark::State& state) {
-  FillFromDescriptions(state, tactix::bench::FillWithStrategies, Strategies, Strategies + 1);
-}
-void FillComboBoxWithBets(benchmark::State& state) {
-  FillFromDescriptions(state, tactix::bench::FillWithBets, Strategies, Strategies + 1);
-}
-void FillComboBoxWithCounts(benchmark::State& state) {
-  FillFromDescriptions(state, tactix::bench::FillWithCounts, Strategies, Counts);
-}
-BENCHMARK(FillComboBoxWithStrategies)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillComboBoxWithBets)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillComboBoxWithCounts)->Unit(benchmark::kMicrosecond);
-
-void FillComboBoxWithStrategyTexts(benchmark::State& state) {
-  FillFromTexts(state, tactix::bench::FillWithStrategies, Strategies, Strategies + 1);
-}
-void FillComboBoxWithBetTexts(benchmark::State& state) {
-  FillFromTexts(state, tactix::bench::FillWithBets, Strategies, Strategies + 1);
-}
-void FillComboBoxWithCountTexts(benchmark::State& state) {
-  FillFromTexts(state, tactix::bench::FillWithCounts, Strategies, Counts);
-}
-BENCHMARK(FillComboBoxWithStrategyTexts)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillComboBoxWithBetTexts)->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillComboBoxWithCountTexts)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillStrategyListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillCompactListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillBettingListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillCountListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
 
 }  // namespace

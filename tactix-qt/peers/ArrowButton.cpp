@@ -20,7 +20,6 @@ ArrowButton::ArrowButton(Qt::ArrowType arrow, std::function<void()> step, QWidge
     : QPushButton(parent), step_(std::move(step)), arrow_(arrow) {
   setFocusPolicy(Qt::NoFocus);
   setAutoDefault(false);
-  setAutoRepeat(true);
   setAutoRepeatDelay(style()->styleHint(QStyle::SH_SpinBox_ClickAutoRepeatThreshold, nullptr, this));
   setAutoRepeatInterval(style()->styleHint(QStyle::SH_SpinBox_ClickAutoRepeatRate, nullptr, this));
   connect(this, &QAbstractButton::pressed, this, [this] { Step(); });
@@ -33,27 +32,30 @@ void ArrowButton::Step() {
 }
 
 void ArrowButton::mousePressEvent(QMouseEvent* event) {
-  held_ = held_ || event->button() == Qt::LeftButton;
+  // Not for good: a press by other means than the mouse, a screen reader's, is a single step.
+  if (event->button() == Qt::LeftButton) setAutoRepeat(true);
   QPushButton::mousePressEvent(event);
 }
 
 void ArrowButton::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) held_ = false;
   QPushButton::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) setAutoRepeat(false);
 }
 
 void ArrowButton::timerEvent(QTimerEvent* event) {
   // A dialog that a step has opened gets the release of the mouse; and a step that takes its time is not run into.
-  if (held_ && (stepping_ > 0 || !(QGuiApplication::mouseButtons() & Qt::LeftButton))) {
-    held_ = false;
-    setDown(false);
-  }
+  const bool isHeld = stepping_ == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton);
+  if (autoRepeat() && !isHeld) LetGo();
   QPushButton::timerEvent(event);
 }
 
-void ArrowButton::hideEvent(QHideEvent* event) {
-  held_ = false;
+void ArrowButton::LetGo() {
+  setAutoRepeat(false);
   setDown(false);
+}
+
+void ArrowButton::hideEvent(QHideEvent* event) {
+  LetGo();
   QPushButton::hideEvent(event);
 }
 

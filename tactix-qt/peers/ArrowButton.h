@@ -7,8 +7,9 @@
 
 namespace tactix::qt {
 
-/// One of a pair of buttons that step something: with an arrow instead of a text, and repeating while it is held. It
-/// steps as it is pressed, not as it is let go. Never takes the focus; it looks focused while its parent is.
+/// One of a pair of buttons that step something: with an arrow instead of a text, and repeating while the
+/// mouse holds it. It steps as it is pressed, not as it is let go. Never takes the focus; it looks focused while its
+/// parent is.
 class TACTIX_QT_EXPORT ArrowButton final : public QPushButton {
  public:
   /// `step` may end the button's window; the button itself must live until it returns.
@@ -23,11 +24,11 @@ class TACTIX_QT_EXPORT ArrowButton final : public QPushButton {
 
  private:
   void Step();
+  void LetGo();
 
   std::function<void()> step_;
   Qt::ArrowType arrow_;
   int stepping_ = 0;
-  bool held_ = false;
 };
 
 }  // namespace tactix::qt

@@ -273,7 +273,7 @@ class QtRobot final : public Robot, private QObject {
     if (!place) return;
     if (by == SpinBy::Mouse) {
       // A click is no holding, however slow the machine is.
-      (pair->*half)().setAutoRepeat(false);
+      (pair->*half)().setAutoRepeatDelay(60'000);
       ClickAt(*window_, *place);
     } else if (by == SpinBy::Wheel) {
       TurnWheel(*window_, *place,

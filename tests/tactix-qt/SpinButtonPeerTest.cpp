@@ -23,12 +23,18 @@ namespace {
 /// A spin counter in a host's window; its events are counted.
 class QtSpinTest : public testing::Test {
  protected:
+  static constexpr int OneMinute = 60000;
+  static constexpr int Delay = 100;  // milliseconds
+  static constexpr int Interval = 40;
+
   QtSpinTest() {
     counter_->control().Events.CounterValueHasChanged.Connect([this](const std::int16_t& value) {
       ++steps_;
       last_ = value;
       if (const auto onStep = onStep_) onStep();
     });
+    // A click is no holding, however slow the machine is.
+    HoldAfter(OneMinute);
     counter_->move(0, 20);
     window_->resize(300, 200);
     window_->show();
@@ -48,8 +54,12 @@ class QtSpinTest : public testing::Test {
   void Release(const QPoint& place) {
     if (window_) QTest::mouseRelease(window_->windowHandle(), Qt::LeftButton, {}, place);
   }
-  int Delay() const { return Pair().UpButton().autoRepeatDelay(); }
-  int Interval() const { return Pair().UpButton().autoRepeatInterval(); }
+  void HoldAfter(int milliseconds) {
+    for (qt::ArrowButton* button : {&Pair().UpButton(), &Pair().DownButton()}) {
+      button->setAutoRepeatDelay(milliseconds);
+      button->setAutoRepeatInterval(Interval);
+    }
+  }
   void Turn(int eighths) { TurnWheel(*window_, PlaceIn(Pair()), eighths); }
   int TakeSteps() { return std::exchange(steps_, 0); }
 
@@ -81,15 +91,23 @@ TEST_F(QtSpinTest, OnlyTheLeftMouseButtonSteps) {
   EXPECT_EQ(TakeSteps(), 0);
 }
 
+TEST_F(QtSpinTest, WaitsBeforeItRepeats) {
+  const qt::SpinCounter untouched;
+  const SpinButton& spin = untouched.control().Children.SpinButton;
+  const auto& up = dynamic_cast<qt::SpinButtonPeer*>(NativeOf(spin))->UpButton();
+  EXPECT_GE(up.autoRepeatDelay(), 200);
+  EXPECT_GE(up.autoRepeatInterval(), 20);
+  EXPECT_LT(up.autoRepeatInterval(), up.autoRepeatDelay());
+}
+
 TEST_F(QtSpinTest, RepeatsWhileItIsHeld) {
+  HoldAfter(Delay);
   Press(Pair().UpButton());
-  QTest::qWait(Delay() + 3 * Interval());
-  EXPECT_GE(steps_, 3);
-  EXPECT_LE(steps_, 6);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return steps_ >= 4; }));
   EXPECT_EQ(last_, steps_);
   Release(PlaceIn(Pair().UpButton()));
   TakeSteps();
-  QTest::qWait(Delay() + Interval());
+  QTest::qWait(Delay + 3 * Interval);
   EXPECT_EQ(TakeSteps(), 0) << "let go";
 }
 
@@ -105,9 +123,10 @@ TEST_P(QtSpinStopTest, ThenNoStepFollows) {
   onStep_ = [this] {
     if (steps_ == 2) GetParam().stop(*window_, *counter_);
   };
-  const int enough = Delay() + 4 * Interval();
+  HoldAfter(Delay);
   Press(Pair().UpButton());
-  QTest::qWait(enough);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return steps_ == 2; }));
+  QTest::qWait(4 * Interval);
   EXPECT_EQ(steps_, 2);
   Release({1, 1});
   Settle();
@@ -129,11 +148,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(QtSpinTest, AStepThatWaitsIsNotRunInto) {
   onStep_ = [this] {
-    if (steps_ == 1) QTest::qWait(Delay() + 4 * Interval());
+    if (steps_ == 1) QTest::qWait(Delay + 4 * Interval);
   };
+  HoldAfter(Delay);
   Press(Pair().UpButton());
   EXPECT_EQ(steps_, 1);
-  QTest::qWait(Delay() + Interval());
+  QTest::qWait(Delay + 3 * Interval);
   EXPECT_EQ(steps_, 1) << "and holding it ends there";
   Release(PlaceIn(Pair().UpButton()));
 }
@@ -148,8 +168,9 @@ TEST_F(QtSpinTest, AReleaseThatADialogHasTakenEndsTheHolding) {
     static_cast<void>(QTest::qWaitForWindowExposed(&dialog));
     QTest::mouseRelease(dialog.windowHandle(), Qt::LeftButton, {}, {5, 5});
   };
+  HoldAfter(Delay);
   Press(Pair().UpButton());
-  QTest::qWait(Delay() + 4 * Interval());
+  QTest::qWait(Delay + 4 * Interval);
   EXPECT_EQ(steps_, 1);
 }
 
@@ -243,8 +264,9 @@ TEST_F(QtSpinTest, IsASpinBoxOfTwoButtonsToAScreenReader) {
     EXPECT_EQ(button->role(), QAccessible::PushButton);
     EXPECT_EQ(button->text(QAccessible::Name), names[i]);
   }
+  HoldAfter(Delay);
   pair->child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  QTest::qWait(Delay() + 2 * Interval());
+  QTest::qWait(Delay + 3 * Interval);
   EXPECT_EQ(TakeSteps(), 1);
   EXPECT_EQ(last_, 1);
 }
