@@ -10,12 +10,14 @@ StrategyBar::StrategyBar(QWidget* parent)
     : QWidget(parent),
       marquee_(new tactix::qt::StrategyMarquix(this)),
       betting_(new tactix::qt::BetStrategyList(this)),
-      counts_(new tactix::qt::CountStrategyList(this)) {
+      counts_(new tactix::qt::CountStrategyList(this)),
+      units_(new tactix::qt::UnitSelectionList(this)) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   marquee_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   row->addWidget(marquee_, 1, Qt::AlignCenter);
   row->addWidget(WithCaption(QStringLiteral("Betting strategy"), betting_), 1, Qt::AlignCenter);
+  row->addWidget(WithCaption(QStringLiteral("Bet"), units_), 1, Qt::AlignCenter);
   row->addWidget(WithCaption(QStringLiteral("Count system"), counts_), 1, Qt::AlignCenter);
 
   marquee_->Caption(QStringLiteral("Seat 1"));
@@ -28,6 +30,9 @@ StrategyBar::StrategyBar(QWidget* parent)
   using tactix::qt::StrategyMarquix;
   connect(marquee_, &StrategyMarquix::StrategySelectionChanged, this, &StrategyBar::PlayingPicked);
   connect(betting_, &BetStrategyList::StrategySelectionChanged, this, &StrategyBar::BettingPicked);
+  // The event carries the row.
+  connect(units_, &tactix::qt::UnitSelectionList::UnitSizeSelected, this,
+          [this](int picked) { Q_EMIT UnitsPicked(picked + 1); });
   // The event's number is one less than the system's.
   connect(counts_, &CountStrategyList::StrategySelectionChanged, this,
           [this](int number) { Q_EMIT CountPicked(number + 1); });

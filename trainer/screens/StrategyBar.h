@@ -5,11 +5,12 @@
 #include "tactix-qt/BetStrategyList.h"
 #include "tactix-qt/CountStrategyList.h"
 #include "tactix-qt/StrategyMarquix.h"
+#include "tactix-qt/UnitSelectionList.h"
 
 namespace trainer::screens {
 
 /// Where the player chooses strategies: a marquee for the one that gives advice at the seat, a list for the one that
-/// sizes the bet, and a list for the system that counts.
+/// sizes the bet, the units that it is sized in, and a list for the system that counts.
 class StrategyBar : public QWidget {
   Q_OBJECT
 
@@ -20,11 +21,13 @@ class StrategyBar : public QWidget {
   tactix::qt::StrategyMarquix& Marquee() { return *marquee_; }
   tactix::qt::BetStrategyList& Betting() { return *betting_; }
   tactix::qt::CountStrategyList& Counts() { return *counts_; }
+  tactix::qt::UnitSelectionList& Units() { return *units_; }
 
  Q_SIGNALS:
   void PlayingPicked(int number);
   void BettingPicked(int number);
   void CountPicked(int number);
+  void UnitsPicked(int units);
 
  private:
   QWidget* WithCaption(const QString& caption, QWidget* list);
@@ -32,6 +35,7 @@ class StrategyBar : public QWidget {
   tactix::qt::StrategyMarquix* marquee_;
   tactix::qt::BetStrategyList* betting_;
   tactix::qt::CountStrategyList* counts_;
+  tactix::qt::UnitSelectionList* units_;
 };
 
 }  // namespace trainer::screens

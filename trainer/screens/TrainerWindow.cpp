@@ -11,6 +11,7 @@
 #include "tactix/companion/Companion.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "trainer/engine/Words.h"
+#include "trainer/screens/CardValueDialog.h"
 #include "trainer/screens/CountDrillDialog.h"
 #include "trainer/screens/HandBlock.h"
 #include "trainer/screens/Messages.h"
@@ -104,6 +105,7 @@ TrainerWindow::TrainerWindow(engine::Session session, std::shared_ptr<IniStrateg
   picks(&StrategyBar::PlayingPicked, &TrainerWindow::FollowStrategy);
   picks(&StrategyBar::BettingPicked, &TrainerWindow::BetBy);
   picks(&StrategyBar::CountPicked, &TrainerWindow::CountBy);
+  picks(&StrategyBar::UnitsPicked, &TrainerWindow::BetUnits);
   strategies_->Counts().CountStrategy(tactix::qt::CountStrategyList::HIOpt1);
   strategies_->Betting().SelectThisStrategy(FlatBet);
   ShowScore();
@@ -137,10 +139,17 @@ void TrainerWindow::MakeDrillMenu() {
   QMenu* const menu = menuBar()->addMenu(QStringLiteral("&Drills"));
   connect(menu->addAction(QStringLiteral("&Running count...")), &QAction::triggered, this,
           &TrainerWindow::DrillCounting);
+  connect(menu->addAction(QStringLiteral("&Card values...")), &QAction::triggered, this,
+          &TrainerWindow::DrillCardValues);
 }
 
 void TrainerWindow::DrillCounting() {
   CountDrillDialog dialog(*countSystem_, session_.TheRules().decks, QRandomGenerator::global()->generate64(), this);
+  dialog.exec();
+}
+
+void TrainerWindow::DrillCardValues() {
+  CardValueDialog dialog(*countSystem_, QRandomGenerator::global()->generate64(), this);
   dialog.exec();
 }
 
@@ -307,6 +316,11 @@ void TrainerWindow::BetBy(int number) {
                            : QStringLiteral("No such betting strategy; the next bet is one unit.")));
 }
 
+void TrainerWindow::BetUnits(int units) {
+  units_ = units;
+  if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("The next bet is in steps of %1.").arg(10 * units)));
+}
+
 void TrainerWindow::SizeTheBet() {
   int units = 1;
   if (plan_) {
@@ -315,7 +329,7 @@ void TrainerWindow::SizeTheBet() {
     // A shoe that is about to be shuffled has no count.
     units = plan_->UnitsFor(session_.TheShoe().NeedsShuffle() ? 0 : shoe.TrueCount, session_.Run());
   }
-  session_.Bet(units * BetUnit);
+  session_.Bet(units * units_ * BetUnit);
 }
 
 void TrainerWindow::CountBy(int number) {

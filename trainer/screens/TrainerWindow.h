@@ -71,6 +71,7 @@ class TrainerWindow : public QMainWindow {
   void ShowTable(const QString& message, TableModel::Verdict verdict = TableModel::Verdict::None);
   void ShowScore();
   void DrillCounting();
+  void DrillCardValues();
   [[nodiscard]] QString ThenGoOn(const QString& message) const;
   void PredictHitCard(std::optional<engine::CardRange> range);
   void PredictHoleCard(std::optional<engine::CardRange> range);
@@ -83,6 +84,7 @@ class TrainerWindow : public QMainWindow {
   void FollowStrategy(int number);
   void BetBy(int number);
   void CountBy(int number);
+  void BetUnits(int units);
   /// By the betting strategy, for the round to come.
   void SizeTheBet();
 
@@ -96,6 +98,7 @@ class TrainerWindow : public QMainWindow {
   Scoreboard* board_;
   StrategyBar* strategies_;
   const tactix::companion::BettingPlan* plan_ = nullptr;  // null for flat bets
+  int units_ = 1;                                         // that the player bets where the plan says one
   const engine::CountSystem* countSystem_;
   BoxInput* box_;
   ToolBarInput* toolBar_;

@@ -81,6 +81,15 @@ TEST_F(TrainerStrategiesTest, AProgressionSizesTheBet) {
   EXPECT_GT(tripled, 0);
 }
 
+TEST_F(TrainerStrategiesTest, TheUnitsMultiplyTheBet) {
+  OpenAt(IsStiff);
+  Pick(Bar().Units(), QStringLiteral(" 5-Units"));
+  EXPECT_EQ(Message(), "The next bet is in steps of 50. Your play?");
+  StandToTheEnd();
+  Press('S');
+  EXPECT_EQ(Session().CurrentBet(), 5000);
+}
+
 TEST_F(TrainerStrategiesTest, ASpreadFollowsTheTrueCount) {
   Open(SeedWhere([](engine::Session& session) { return IsStiff(session); }, {.decks = 1}), {.decks = 1});
   Pick(Bar().Betting(), QStringLiteral("1-4 Spread"));
