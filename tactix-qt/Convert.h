@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QFont>
 #include <QString>
+#include <QWidget>
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -31,7 +33,11 @@ TACTIX_QT_EXPORT QFont ToQt(const Font& font);
 TACTIX_QT_EXPORT Font FromQt(const QFont& font);
 
 inline constexpr float TwipsPerPixel = 15.0F;
-inline int ToPixels(float twips) { return static_cast<int>(std::lround(twips / TwipsPerPixel)); }
+/// Lengths past Qt's own limit, some sixteen million pixels, end there.
+inline int ToPixels(float twips) {
+  constexpr float Limit = QWIDGETSIZE_MAX;
+  return static_cast<int>(std::lround(std::clamp(twips / TwipsPerPixel, -Limit, Limit)));
+}
 inline float ToTwips(double pixels) { return static_cast<float>(pixels) * TwipsPerPixel; }
 
 }  // namespace tactix::qt

@@ -109,8 +109,10 @@ void LabelPeer::Update(Aspect aspect) {
 
 int LabelPeer::TextFlags() const { return static_cast<int>(alignment()) | Qt::TextWordWrap | Qt::TextShowMnemonic; }
 
+QRect LabelPeer::TextRoom() const { return contentsRect() & InSight(); }
+
 QRect LabelPeer::TextRect() {
-  const QRect room = contentsRect();
+  const QRect room = TextRoom();
   const QFont& fitted = fitted_.Fit(text(), font(), room.size(), TextFlags(), this);
   return FittedText::Measure(text(), fitted, room, TextFlags(), this);
 }
@@ -118,10 +120,11 @@ QRect LabelPeer::TextRect() {
 void LabelPeer::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   drawFrame(&painter);
-  QFont fitted = fitted_.Fit(text(), font(), contentsRect().size(), TextFlags(), this);
+  const QRect room = TextRoom();
+  QFont fitted = fitted_.Fit(text(), font(), room.size(), TextFlags(), this);
   if (underMouse() && isEnabled() && IsClickable()) fitted.setUnderline(true);
   painter.setFont(fitted);
-  style()->drawItemText(&painter, contentsRect(), TextFlags(), palette(), isEnabled(), text(), foregroundRole());
+  style()->drawItemText(&painter, room, TextFlags(), palette(), isEnabled(), text(), foregroundRole());
 }
 
 }  // namespace tactix::qt

@@ -8,8 +8,9 @@
 
 namespace tactix::qt {
 
-/// A label whose text wraps and shrinks instead of being cut. One that takes clicks is clicked by a press and a release
-/// on it and is underlined under the mouse; any other leaves the mouse to its parent.
+/// A label whose text wraps and shrinks instead of being cut, also where the control leaves only a part of it in sight.
+/// One that takes clicks is clicked by a press and a release on it and is underlined under the mouse; any other leaves
+/// the mouse to its parent.
 class TACTIX_QT_EXPORT LabelPeer final : public NativePeer<QLabel, Label> {
  public:
   LabelPeer(Label& label, QtSite& site, QWidget* parent);
@@ -30,6 +31,7 @@ class TACTIX_QT_EXPORT LabelPeer final : public NativePeer<QLabel, Label> {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QRect TextRoom() const;
   int TextFlags() const;
 
   FittedText fitted_;

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "tests/platform/ErrorCode.h"
 #include "tests/support/HeadlessProbe.h"
 #include "tests/support/RowName.h"
 
@@ -97,6 +99,21 @@ TEST(WidgetTest, SettersOfAPlaceLeaveTheRestOfItAlone) {
   EXPECT_EQ(label.Top(), 20);
   EXPECT_EQ(label.Width(), 30);
   EXPECT_EQ(label.Height(), 40);
+}
+
+TEST(WidgetTest, APlaceThatIsNotFiniteIsRefused) {
+  constexpr float Infinite = std::numeric_limits<float>::infinity();
+  for (const float length : {Infinite, -Infinite, std::numeric_limits<float>::quiet_NaN()}) {
+    using Setter = void (Widget::*)(float);
+    for (const Setter set :
+         {Setter{&Widget::Left}, Setter{&Widget::Top}, Setter{&Widget::Width}, Setter{&Widget::Height}}) {
+      Label label;
+      label.Place(1, 2, 3, 4);
+      EXPECT_EQ(ErrorCodeOf([&] { return (label.*set)(length), 0; }), Error::InvalidPropertyValue) << length;
+      EXPECT_EQ(std::vector({label.Left(), label.Top(), label.Width(), label.Height()}),
+                (std::vector<float>{1, 2, 3, 4}));
+    }
+  }
 }
 
 TEST(WidgetTest, TellsItsObserverThatItIsGone) {

@@ -31,6 +31,8 @@ class QtRobot final : public Robot, private QObject {
     qApp->installEventFilter(this);
   }
   ~QtRobot() override {
+    // What they do is the test body's, which has ended.
+    delete pending_;
     qt::QtSite::BeepWith({});
     delete window_;
     Settle();
@@ -168,7 +170,7 @@ class QtRobot final : public Robot, private QObject {
   }
 
   void After(std::int64_t milliseconds, std::function<void()> action) override {
-    QTimer::singleShot(std::chrono::milliseconds(milliseconds), Qt::PreciseTimer, this, std::move(action));
+    QTimer::singleShot(std::chrono::milliseconds(milliseconds), Qt::PreciseTimer, pending_, std::move(action));
   }
 
   void Wait(std::int64_t milliseconds) override { QTest::qWait(static_cast<int>(milliseconds)); }
@@ -304,6 +306,7 @@ class QtRobot final : public Robot, private QObject {
     if (open) LeaveMenu(*open);
   }
 
+  QObject* const pending_ = new QObject(this);  // actions that have yet to run
   QPointer<QWidget> window_;
   std::vector<QPointer<qt::ControlWidget>> hosts_;
   std::deque<std::function<void(Menu&)>> scripts_;

@@ -122,6 +122,27 @@ TEST(QtPlainLabelTest, LeavesTheMouseToItsParent) {
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&native)->role(), QAccessible::StaticText);
 }
 
+TEST(QtPlainLabelTest, DrawsItsTextInThePartInSight) {
+  NativeProbeWindow window;
+  window.Show();
+  Label& label = window.Children().StatusLabel;
+  auto* const peer = dynamic_cast<qt::LabelPeer*>(NativeOf(label));
+  const int height = peer->parentWidget()->height();
+  label.Place(0, static_cast<float>(height - 30) * 15, 3000, static_cast<float>(height) * 15);
+  EXPECT_EQ(peer->height(), height);
+  EXPECT_TRUE(QRect(0, 0, 200, 30).contains(peer->TextRect()));
+  const QImage before = peer->grab(QRect(0, 0, 200, 30)).toImage();
+  label.Caption("Other");
+  EXPECT_NE(peer->grab(QRect(0, 0, 200, 30)).toImage(), before);
+}
+
+TEST(QtPlainLabelTest, APlaceFarOutStaysWithinWhatQtCanHold) {
+  NativeProbeWindow window;
+  Label& label = window.Children().StatusLabel;
+  label.Place(-1e30F, 1e30F, 1e30F, 1e30F);
+  EXPECT_EQ(NativeOf(label)->pos(), QPoint(-QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
+
 TEST(QtLegendTest, MayGoInTheClickOnALabel) {
   for (const bool withWindow : {false, true}) {
     auto* const window = new QWidget;

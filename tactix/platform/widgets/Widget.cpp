@@ -1,6 +1,7 @@
 #include "tactix/platform/widgets/Widget.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Site.h"
@@ -66,6 +67,9 @@ Widget::~Widget() {
 }
 
 void Widget::Place(float left, float top, float width, float height) {
+  for (const float length : {left, top, width, height}) {
+    if (!std::isfinite(length)) throw Error(Error::InvalidPropertyValue);
+  }
   if (left == left_ && top == top_ && width == width_ && height == height_) return;
   const bool sizeChanged = width != width_ || height != height_;
   left_ = left;

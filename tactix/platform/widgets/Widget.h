@@ -119,7 +119,7 @@ class TACTIX_EXPORT Widget : public Trackable {
   /// The name under which its control knows it.
   std::string_view Name() const { return name_; }
 
-  /// Place inside the parent, in the control's scale units.
+  /// Place inside the parent, in the control's scale units. One that is not finite fails with 380.
   float Left() const { return left_; }
   void Left(float left) { Place(left, top_, width_, height_); }
   float Top() const { return top_; }
