@@ -8,13 +8,13 @@
 #include "tactix/companion/Words.h"
 #include "tactix/platform/Object.h"
 #include "tactix/strategy/BetStrategyList.h"
+#include "tactix/strategy/RowTexts.h"
 #include "tactix/strategy/StrategyList.h"
 
 namespace tactix::companion {
 
 namespace {
 
-constexpr int EmptySeat = -1;
 static_assert(IniStrategyCatalogue::HighestNumber == StrategyList::HighestReportedRow - 1);
 static_assert(IniStrategyCatalogue::HighestBettingNumber == BetStrategyList::HighestReportedRow - 1);
 

@@ -2,13 +2,11 @@
 
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Utf8.h"
+#include "tactix/strategy/StrategyListData.h"
 
 namespace tactix::companion {
 
 namespace {
-
-constexpr char32_t ShiftDistance = 10;
-constexpr std::size_t LongestShifted = 65;
 
 char32_t Shift(const Utf8Character& character) {
   if (!character.wellFormed) throw Error(Error::InvalidProcedureCall, "not UTF-8");
@@ -25,7 +23,7 @@ char32_t Shift(const Utf8Character& character) {
 std::string ShiftStrategyText(std::string_view text) {
   std::string shifted;
   for (std::size_t count = 0; !text.empty(); ++count) {
-    if (count == LongestShifted) {
+    if (count == ShiftedWidth) {
       throw Error(Error::InvalidProcedureCall, "longer than the 65 characters that can be stored shifted");
     }
     const Utf8Character character = DecodeUtf8(text);

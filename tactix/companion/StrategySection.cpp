@@ -25,19 +25,19 @@ void RefuseUnknownKeys(const IniFile& file, const IniSection& section,
   }
 }
 
-struct FlagText {
+struct FlagWord {
   std::string_view text;
   bool flag;
 };
 
-constexpr FlagText FlagTexts[] = {{"yes", true}, {"no", false}, {"true", true}, {"false", false}};
+constexpr FlagWord FlagWords[] = {{"yes", true}, {"no", false}, {"true", true}, {"false", false}};
 
 /// Leaves the flag as it is where there is no such entry.
 void ReadFlag(const IniFile& file, const IniEntry* entry, bool& flag) {
   if (!entry) return;
-  const auto* const found = std::find_if(std::begin(FlagTexts), std::end(FlagTexts),
-                                         [&](const FlagText& each) { return SameName(each.text, entry->value); });
-  if (found == std::end(FlagTexts)) file.Fail(entry->line, "expected 'yes' or 'no', found " + Quoted(entry->value));
+  const auto* const found = std::find_if(std::begin(FlagWords), std::end(FlagWords),
+                                         [&](const FlagWord& each) { return SameName(each.text, entry->value); });
+  if (found == std::end(FlagWords)) file.Fail(entry->line, "expected 'yes' or 'no', found " + Quoted(entry->value));
   flag = found->flag;
 }
 

@@ -4,8 +4,8 @@
 
 namespace tactix {
 
-/// Runs one step and passes over its error, so that the next step runs: a saved property that cannot be read keeps its
-/// default, one that cannot be written is left out.
+/// Runs one step and passes over its error, so that the next step runs: a saved property that cannot be read stays as
+/// it is, one that cannot be written is left out, a quiet fill ends where it stands.
 template <class Step>
 void IgnoringErrors(Step&& step) {
   try {

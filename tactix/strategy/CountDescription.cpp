@@ -16,12 +16,10 @@ namespace {
 
 constexpr int HighestCard = 13;
 
-constexpr std::size_t ScrambledWidth = 65;
-
 /// As much of a scrambled text as is looked at.
 std::string_view Scrambled(std::string_view text) {
   std::string_view rest = text;
-  for (std::size_t i = 0; i < ScrambledWidth && !rest.empty(); ++i) rest.remove_prefix(DecodeUtf8(rest).length);
+  for (std::size_t i = 0; i < ShiftedWidth && !rest.empty(); ++i) rest.remove_prefix(DecodeUtf8(rest).length);
   return text.substr(0, text.size() - rest.size());
 }
 

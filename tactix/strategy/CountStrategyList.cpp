@@ -24,6 +24,7 @@ constexpr StrategyListRules Rules = {
     .failedWrite = OnFailure::Report,
     .failedResize = OnFailure::Report,
     .boxSize = BoxSize::Width,
+    .rowWidth = RowWidth::SixteenBits,
 };
 
 /// The systems as designed, from the lowest number up; the last but one has none.
@@ -62,7 +63,7 @@ class CountStrategyStore final : public Object {};
 
 std::string Describe(std::int16_t system) {
   std::string text;
-  StrategyListData::Catalogue().DescribeStrategy(system, text);
+  StrategyListData::Catalogue()->DescribeStrategy(system, text);
   return text;
 }
 
@@ -109,7 +110,7 @@ void CountStrategyList::InputCountStrategyDescriptions() {
 void CountStrategyList::FillBegins() {
   description_.clear();
   store_ = std::make_shared<CountStrategyStore>();
-  PassingOverObjectNotSet([store = store_] { StrategyListData::Catalogue().AttachCountStrategyStore(store); });
+  PassingOverObjectNotSet([store = store_] { StrategyListData::Catalogue()->AttachCountStrategyStore(store); });
 }
 
 void CountStrategyList::FillRow(std::int16_t system) {

@@ -27,9 +27,11 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   /// under its own name, 16 by default, and notified when a row was selected.
   Coded<CountStrategyPossibilities> CountStrategy() const { return std::int32_t{ListIndex()}; }
   void CountStrategy(Coded<CountStrategyPossibilities> system);
-  /// A card's point value, 1 to 4, in a system, 11 to 38; fails with 9 for others.
+  /// Kept for hosts that ask: always 0 for cards 1 to 4 of systems 11 to 38, since no fill keeps point values, see
+  /// CountDescription::ReadNumbers; fails with 9 for others.
   std::int16_t CountValue(Coded<CountStrategyPossibilities> forThisCount, std::int16_t andThisCard) const;
-  /// What the last fill has read of a system, 11 to 38; fails with 9 for others.
+  /// What fills have last read of a system, 11 to 38; fails with 9 for others. A system that a fill passes over keeps
+  /// what it had.
   const CountStrategyRecord& Record(Coded<CountStrategyPossibilities> system) const;
 
   /// Refills the box from the catalogue, systems 11 to 38. A system without a description gets no row. Passes over what

@@ -22,11 +22,11 @@ void NumberedStrategyList::FillUpTo(std::int16_t highest) { Fill(EmptySeat, high
 // A catalogue may write to the number that it is asked for.
 
 std::string NumberedStrategyList::DescribePlaying(std::int16_t strategy) {
-  return StrategyListData::Catalogue().DescribeStrategy(strategy);
+  return StrategyListData::Catalogue()->DescribeStrategy(strategy);
 }
 
 std::string NumberedStrategyList::DescribeBetting(std::int16_t strategy) {
-  return StrategyListData::Catalogue().DescribeBettingStrategy(strategy);
+  return StrategyListData::Catalogue()->DescribeBettingStrategy(strategy);
 }
 
 const PropertyTable& NumberedStrategyList::Properties() const {

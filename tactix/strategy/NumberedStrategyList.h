@@ -10,8 +10,8 @@
 
 namespace tactix {
 
-/// What the lists of playing and betting strategies have in common. Row r stands for strategy r - 1: row 0 is the empty
-/// seat.
+/// What the lists of playing and betting strategies have in common. Row r stands for strategy r - 1, row 0 for the
+/// empty seat. Where a list leaves rows out, those behind them stand for lower numbers than they were filled from.
 class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
  public:
   /// The selected row's strategy, as ListIndex. Setting a number above the row count does nothing; any other selects
@@ -25,7 +25,7 @@ class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
   const PropertyTable& Properties() const override;
 
   struct EventSet {
-    /// A row was accepted; carries the strategy's number. What the handler writes to it is ignored.
+    /// A row was accepted; carries the row - 1. What the handler writes to it is ignored.
     Event<std::int32_t&> StrategySelectionChanged{1, "StrategySelectionChanged"};
 
     auto All() { return std::tie(StrategySelectionChanged); }

@@ -37,6 +37,7 @@ void StrategyListControl::SetUpBox() {
   box.ToolTipText(rules_.toolTip);
   if (!rules_.fontName.empty()) box.Font({std::string(rules_.fontName), SizeOfFont});
   box.Clicked.Connect([this] { ReportTheStrategySelection(); });
+  // A new text deselects, so that nothing is reported as long as boxes do so.
   box.Changed.Connect([this] { ReportTheStrategySelection(); });
 }
 
@@ -76,8 +77,9 @@ void StrategyListControl::Font(const tactix::Font& font) {
 const std::string& StrategyListControl::Text() const { return Box().Text(); }
 
 void StrategyListControl::Text(std::string_view text) {
+  const Weak<StrategyListControl> self(this);
   Box().Text(text);
-  NotifyChanged("Text");
+  if (self) NotifyChanged("Text");
 }
 
 const std::string& StrategyListControl::ToolTipText() const { return Box().ToolTipText(); }
@@ -90,13 +92,17 @@ void StrategyListControl::ToolTipText(std::string_view text) {
 const std::string& StrategyListControl::DefaultContent() const { return Box().Text(); }
 
 void StrategyListControl::DefaultContent(std::string_view text) {
+  const Weak<StrategyListControl> self(this);
   Box().Text(text);
-  NotifyChanged("DefaultContent");
+  if (self) NotifyChanged("DefaultContent");
 }
 
 std::int16_t StrategyListControl::ListIndex() const { return Variant(Box().ListIndex() - 1).ToInteger(); }
 
-void StrategyListControl::ListIndex(std::int16_t strategy) { Box().ListIndex(std::int32_t{strategy} + 1); }
+void StrategyListControl::ListIndex(std::int16_t strategy) {
+  const std::int32_t row = std::int32_t{strategy} + 1;
+  Box().ListIndex(rules_.rowWidth == RowWidth::SixteenBits ? Variant(row).ToInteger() : row);
+}
 
 std::int16_t StrategyListControl::Style() const { return Box().Style(); }
 
@@ -106,7 +112,7 @@ void StrategyListControl::Visible(bool visible) { Box().Visible(visible); }
 
 void StrategyListControl::LoadTheStrategyRange() {
   const Weak<StrategyListControl> self(this);
-  const StrategyRange range = StrategyListData::Catalogue().GetStrategyRange();
+  const StrategyRange range = StrategyListData::Catalogue()->GetStrategyRange();
   if (self) range_ = range;
 }
 
@@ -118,14 +124,16 @@ void StrategyListControl::LoadStrategiesFromIniFile() {
 
 void StrategyListControl::Fill(std::int32_t first, std::int32_t last) {
   const Weak<StrategyListControl> self(this);
-  const ListBox::Appending appending(Box());
+  ListBox::Appending appending(Box());
   Box().Clear();
   FillBegins();
   for (std::int32_t i = first; self && i <= last; ++i) {
     filledNumber_ = static_cast<std::int16_t>(i);
     FillRow(filledNumber_);
   }
-  if (self) Box().Text(SelectAStrategyText);
+  if (!self) return;
+  appending.End();
+  Box().Text(SelectAStrategyText);
 }
 
 void StrategyListControl::UseThisStrategyList(const ObjectRef& thisStrategyList) {

@@ -17,15 +17,17 @@ namespace tactix {
 
 struct StrategyListRules;
 
-/// What the drop-down lists of strategies have in common. Each fills itself from the strategy catalogue, refuses a "Not
-/// Present" row with a beep, and reports every other row that is selected, by a user or from code.
+/// What the drop-down lists of strategies have in common. Each fills itself from the strategy catalogue. Up to the
+/// highest row that it reports, it refuses a "Not Present" row with a beep and reports every other one that is
+/// selected, by a user or from code; rows past it are shown only.
 class TACTIX_EXPORT StrategyListControl : public Control {
  public:
   /// Adds a row of the host's own, at the end or before row `index`; an index outside 0 ... count fails with 5.
   void AddItem(std::string_view item, std::optional<std::int32_t> index = std::nullopt);
 
-  /// The box's look. Each is saved and notified under its own name. Defaults: system window colours, enabled, the
-  /// ambient font, and the empty text and tool tip (a stored empty text leaves the design text).
+  /// The box's look. Each is saved and notified under its own name. A new list has the system's window colours, is
+  /// enabled and has its design's text, font and tool tip; where a form has stored nothing, it gets the ambient font
+  /// and an empty tool tip, and keeps its text.
   Color BackColor() const;
   void BackColor(Color color);
   Color ForeColor() const;
@@ -47,7 +49,7 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   void ControlType(Coded<TypeOfStrategyControl> type) { controlType_ = type; }
 
   /// The selected row - 1, so -2 when no row is selected. Setting it selects its row and reports that; a row that the
-  /// box does not have fails with 380. Reading a row past 32768 fails with 6.
+  /// box does not have fails with 380, 32767 in a count list with 6. Reading a row past 32768 fails with 6.
   std::int16_t ListIndex() const;
   void ListIndex(std::int16_t strategy);
 
@@ -58,7 +60,8 @@ class TACTIX_EXPORT StrategyListControl : public Control {
 
   /// Loads the catalogue's range, then fills. Fails where the range cannot be had: without a catalogue with 91.
   void LoadStrategiesFromIniFile();
-  /// Keeps the host's collection and its Count.
+  /// Keeps the host's collection and its Count, no more: rows come from the catalogue alone. Fails with 91 for none,
+  /// and as the collection or the conversion of its Count fails; the collection is kept all the same.
   void UseThisStrategyList(const ObjectRef& thisStrategyList);
   /// The Count of the collection last handed over, 0 by default.
   std::int16_t StrategyCount() const { return strategyCount_; }

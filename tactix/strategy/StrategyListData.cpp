@@ -10,9 +10,6 @@ namespace tactix {
 
 namespace {
 
-constexpr char32_t ShiftDistance = 10;
-constexpr std::size_t UnshiftedWidth = 65;
-
 struct Shared {
   std::shared_ptr<StrategyCatalogue> catalogue;
   StrategyListData::CatalogueFactory createCatalogue;
@@ -60,14 +57,14 @@ void DescriptionBuffer::Write(std::string_view text) {
   text_ = std::move(written);
 }
 
-StrategyCatalogue& StrategyListData::Catalogue() {
+std::shared_ptr<StrategyCatalogue> StrategyListData::Catalogue() {
   Shared& shared = TheShared();
   if (!shared.catalogue) {
     const CatalogueFactory create = shared.createCatalogue;  // a copy: it may set another factory while it runs
     if (create) shared.catalogue = create();
     if (!shared.catalogue) throw Error(Error::ObjectNotSet);
   }
-  return *shared.catalogue;
+  return shared.catalogue;
 }
 
 void StrategyListData::UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue) {
@@ -86,7 +83,7 @@ std::string UnshiftStrategyText(std::string_view text) {
   for (std::size_t count = 0; !text.empty() && text.front() != '\0'; ++count) {
     const Utf8Character character = DecodeUtf8(text);
     const char32_t code = Unshift(character);
-    if (count < UnshiftedWidth) AppendUtf8(unshifted, code);
+    if (count < ShiftedWidth) AppendUtf8(unshifted, code);
     text.remove_prefix(character.length);
   }
   return unshifted;

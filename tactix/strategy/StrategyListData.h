@@ -32,8 +32,9 @@ class TACTIX_EXPORT StrategyListData {
   using CatalogueFactory = std::function<std::shared_ptr<StrategyCatalogue>()>;
 
   /// The strategy catalogue, made by the factory on first use and then kept for the life of the process. Fails with 91
-  /// when there is none and the factory is empty or makes none.
-  static StrategyCatalogue& Catalogue();
+  /// when there is none and the factory is empty or makes none. A call on it may set another one, so that callers hold
+  /// on to what they call.
+  static std::shared_ptr<StrategyCatalogue> Catalogue();
   /// Sets the catalogue; null makes the next use create one again.
   static void UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue);
   /// How the catalogue is created on first use. Empty by default.
@@ -41,6 +42,11 @@ class TACTIX_EXPORT StrategyListData {
 
   static tactix::DescriptionBuffer& Buffer();
 };
+
+/// By how much the code of a character is raised in a text that is stored shifted.
+inline constexpr char32_t ShiftDistance = 10;
+/// How many characters of a text that is stored shifted come back.
+inline constexpr std::size_t ShiftedWidth = 65;
 
 /// Each character's code lowered by 10, up to the end or a character of code 0; at most 65 characters come back. A code
 /// below 10 fails with 5.

@@ -7,8 +7,9 @@
 namespace tactix {
 
 /// The light-weight list of playing strategies, to stand inside other controls: as StrategyList, but without rows for
-/// empty descriptions, and quiet when a fill or a description fails. What fails when its properties are loaded or
-/// saved, and when it is resized, reaches the container.
+/// empty descriptions, with "Empty Seat" for a seat that is described, with fewer rows reported, and quiet when a fill
+/// or a description fails. What fails when its properties are loaded or saved, and when it is resized, reaches the
+/// container.
 class TACTIX_EXPORT StrategyListLITE : public NumberedStrategyList {
  public:
   explicit StrategyListLITE(Site& site);

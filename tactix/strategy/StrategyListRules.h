@@ -16,6 +16,9 @@ enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
 enum class BoxSize { Width, WidthAndHeight };
 
+/// Up to where a number can be told to select its row; past it that fails with 6.
+enum class RowWidth { SixteenBits, ThirtyTwoBits };
+
 /// What a strategy list does differently from the others, apart from how it fills and what it reports.
 struct StrategyListRules {
   std::string_view boxName = "StrategyListBox";
@@ -32,6 +35,7 @@ struct StrategyListRules {
   OnFailure failedResize = OnFailure::PassOver;
   /// What of the control's size the box takes.
   BoxSize boxSize = BoxSize::WidthAndHeight;
+  RowWidth rowWidth = RowWidth::ThirtyTwoBits;
   AtTheEnd atTheEnd = AtTheEnd::KeepTheCollection;
 };
 

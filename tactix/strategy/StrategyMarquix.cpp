@@ -78,7 +78,7 @@ void StrategyMarquix::ReadProperties(PropertyBag& bag) {
   if (self) Children.optStrategySelected.Value(read);
 }
 
-void StrategyMarquix::WriteProperties(PropertyBag& bag) { bag.Write("Caption", Caption(), DesignCaption); }
+void StrategyMarquix::WriteProperties(PropertyBag& bag) { bag.Write("Caption", Caption()); }
 
 const PropertyTable& StrategyMarquix::Properties() const {
   using Self = StrategyMarquix;

@@ -41,7 +41,7 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
   /// Whether the list can be used, true by default.
   bool Enabled() const { return Children.StrategyListBox.Enabled(); }
   void Enabled(bool enabled) { Children.StrategyListBox.Enabled(enabled); }
-  /// The number of the list's selected strategy, -2 when no row is selected; setting it selects its row, as the list's.
+  /// The list's selected row - 1, -2 when no row is selected; setting it selects its row, as the list's.
   std::int16_t ListIndex() const { return Children.StrategyListBox.ListIndex(); }
   void ListIndex(std::int16_t strategy) { Children.StrategyListBox.ListIndex(strategy); }
 
@@ -74,7 +74,7 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
     Event<std::int16_t> BettingStrategySelected{1, "BettingStrategySelected"};
     /// Declared for hosts; not raised by the marquee.
     Event<std::int16_t> PlayingStrategySelected{2, "PlayingStrategySelected"};
-    /// A row of the list was accepted; carries the strategy's number.
+    /// A row of the list was accepted; carries the row - 1.
     Event<std::int32_t&> StrategySelectionChanged{3, "StrategySelectionChanged"};
 
     auto All() { return std::tie(BettingStrategySelected, PlayingStrategySelected, StrategySelectionChanged); }

@@ -69,16 +69,16 @@ TEST_F(CompanionTest, InstallingMakesEmptyStrategyDataBlocks) {
 
 TEST_F(CompanionTest, InstallingAgainKeepsWhatWasCreated) {
   companion::Install();
-  const StrategyCatalogue* const created = &StrategyListData::Catalogue();
+  const StrategyCatalogue* const created = StrategyListData::Catalogue().get();
   companion::Install();
-  EXPECT_EQ(&StrategyListData::Catalogue(), created);
+  EXPECT_EQ(StrategyListData::Catalogue().get(), created);
 }
 
 TEST_F(CompanionTest, InstallingKeepsTheHostsCatalogue) {
   const auto own = std::make_shared<companion::IniStrategyCatalogue>("[Playing 0]\ncaption=x\n", "own.ini");
   StrategyListData::UseCatalogue(own);
   companion::Install();
-  EXPECT_EQ(&StrategyListData::Catalogue(), own.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), own.get());
 }
 
 }  // namespace

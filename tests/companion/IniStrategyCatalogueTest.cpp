@@ -9,6 +9,7 @@
 #include <string>
 
 #include "tactix/companion/ShiftedText.h"
+#include "tests/support/Repeated.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
@@ -60,8 +61,12 @@ INSTANTIATE_TEST_SUITE_P(
                                    ",dk\xC3\xB3\xE2\x99\xAA,True True"},
                     DescriptionRow{"LongestShifted", "caption=" + std::string(65, 'a') + "\nshifted=yes\n",
                                    "," + std::string(65, 'k') + ",True True"},
+                    DescriptionRow{"LongestBeyondAscii", "caption=x\nnote=" + Repeated(1010, "\xC3\xA9") + "\n",
+                                   Repeated(1010, "\xC3\xA9") + ",x,False True"},
                     DescriptionRow{"Longest", "caption=x\nnote=" + std::string(1010, 'n') + "\n",
-                                   std::string(1010, 'n') + ",x,False True"}),
+                                   std::string(1010, 'n') + ",x,False True"},
+                    DescriptionRow{"LongestNotPresent", "caption=x\npresent=no\nnote=" + std::string(1009, 'n') + "\n",
+                                   std::string(1009, 'n') + ",x,False False"}),
     RowName());
 
 TEST(IniStrategyCatalogueTest, LeavesGapsEmpty) {
@@ -209,6 +214,9 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedRow{"ShiftedCaptionTooLong", "[Playing 0]\nshifted=yes\ncaption=" + std::string(66, 'a') + "\n",
                    "s.ini:3: caption: longer than the 65 characters that can be stored shifted"},
         RefusedRow{"NoteTooLong", "[Playing 0]\ncaption=x\nnote=" + std::string(1011, 'n') + "\n",
+                   "s.ini:2: caption and note are too long together"},
+        RefusedRow{"NoteTooLongAndNotPresent",
+                   "[Playing 0]\ncaption=x\npresent=no\nnote=" + std::string(1010, 'n') + "\n",
                    "s.ini:2: caption and note are too long together"},
         RefusedRow{"NoFlag", "[Playing 0]\ncaption=a\npresent=1\n", "s.ini:3: expected 'yes' or 'no', found '1'"},
         RefusedRow{"EmptyFlag", "[Playing 0]\ncaption=a\nshifted=\n", "s.ini:3: expected 'yes' or 'no', found ''"},

@@ -473,6 +473,28 @@ TEST(ListBoxTest, MayEndWhileRowsAreAppended) {
   list.reset();
 }
 
+TEST(ListBoxTest, AnErrorOfTheDrawingIsReportedByAnExpressEnd) {
+  struct FailingWatcher final : WidgetObserver {
+    void Changed(Widget&, Aspect) override {}
+    void RowsAppended(ListBox&, std::int32_t, std::int32_t) override { throw Error(1234); }
+    void Gone(Widget&) override {}
+  } watcher;
+  ListBox list;
+  list.Observe(&watcher);
+  {
+    ListBox::Appending appending(list);
+    Append(list, 2);
+    EXPECT_EQ(ErrorCodeOf([&] { appending.End(); }), 1234);
+    EXPECT_EQ(ErrorCodeOf([&] { appending.End(); }), 0) << "it has ended";
+  }
+  {
+    const ListBox::Appending appending(list);
+    Append(list, 2);
+  }
+  EXPECT_EQ(list.ListCount(), 4);
+  list.Observe(nullptr);
+}
+
 TEST(ListBoxTest, AnObserverThatTakesRowsOneByOneGetsThemSo) {
   ListWatcher watcher;
   ListBox list;

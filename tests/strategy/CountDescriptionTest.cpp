@@ -93,6 +93,24 @@ INSTANTIATE_TEST_SUITE_P(Rows, CountTextsFailureTest,
                                                          std::string(64, 'k') + "\x09,Name,True True ", 5}),
                          RowName());
 
+TEST(CountDescriptionTest, WhatWasReadStaysWhereALaterFieldFails) {
+  CountStrategyRecord record;
+  EXPECT_EQ(ErrorCodeOf([&] { return CountDescription("note,Name,False maybe ").ReadTexts(record, 20); }), 13);
+  EXPECT_EQ(record.Description, "note");
+  EXPECT_EQ(record.Name, "Name");
+  CountStrategyRecord shifted;
+  EXPECT_EQ(ErrorCodeOf([&] { return CountDescription("xy~o,Xkwo,True maybe ").ReadTexts(shifted, 20); }), 13);
+  EXPECT_EQ(shifted.Description, "note");
+  EXPECT_EQ(shifted.Name, "Name");
+  EXPECT_TRUE(shifted.Enciphered);
+  CountDescription numbers("note,Name,False True 1 2 x 4 ");
+  EXPECT_TRUE(numbers.ReadTexts(record, 20));
+  EXPECT_EQ(ErrorCodeOf([&] { numbers.ReadNumbers(record, 20); }), 13);
+  EXPECT_EQ(record.CountSetting3, 1);
+  EXPECT_EQ(record.CountSetting4, 2);
+  EXPECT_EQ(record.CountSetting1, 0);
+}
+
 struct NumbersRow {
   const char* name;
   std::string numbers;

@@ -41,6 +41,9 @@ INSTANTIATE_TEST_SUITE_P(
                     DescriptionRow{"BlanksInTheText", "a note, Basic  play ,False True ", " Basic  play "},
                     DescriptionRow{"CommaAfterTheText", "note,Basic,0 1 ,more,", "Basic"},
                     DescriptionRow{"TextBehindThePresence", "note,Basic,False True rest of it", "Basic"},
+                    // Without a blank behind the comma the presence is looked for from the first character on.
+                    DescriptionRow{"PresenceFromTheFirstCharacter", "1 note,Basic,False", "Basic"},
+                    DescriptionRow{"AbsenceFromTheFirstCharacter", "0 note,Basic,x", "Not Present"},
                     DescriptionRow{"Shifted", "xy~o,Lk}sm,True True ", "Basic"},
                     DescriptionRow{"ShiftedText", "\x0b,L|,True True ", "Br"},
                     DescriptionRow{"ShiftedButAbsent", "xy~o,Lk}sm,True False ", "Not Present"},
@@ -72,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, PlayingDescriptionFailureTest,
                                          FailureRow{"ShiftedIsMissing", "note,Basic, False True ", 13},
                                          FailureRow{"PresentIsMissing", "note,Basic,False  True ", 13},
                                          FailureRow{"PresentIsNotClosed", "note,Basic,False True", 5},
-                                         // Without a blank the presence is looked for from the first character on.
+                                         FailureRow{"NoteIsNoFlag", "a note,Basic,False", 13},
                                          FailureRow{"NoBlankAtAll", "note,Basic,False", 5},
                                          FailureRow{"CodeBelowTen", "note,B\x09,True True ", 5}),
                          RowName());

@@ -13,6 +13,7 @@
 #include "tactix/platform/Error.h"
 #include "tactix/platform/headless/HeadlessSite.h"
 #include "tests/platform/ErrorCode.h"
+#include "tests/support/BareSite.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/FakeCatalogue.h"
 #include "tests/support/ListKinds.h"
@@ -105,6 +106,7 @@ TEST_P(StrategyListControlTest, AddsRowsOfTheHosts) {
   list_->AddItem("b", 1);
   EXPECT_EQ(Rows(), (Texts{"a", "b", "c"}));
   EXPECT_EQ(ErrorCodeOf([&] { list_->AddItem("d", 4); }), 5);
+  EXPECT_EQ(ErrorCodeOf([&] { list_->AddItem("d", -1); }), 5);
 }
 
 // Selecting.
@@ -130,6 +132,8 @@ TEST_P(StrategyListControlTest, ReportsWhatIsSelectedFromCode) {
   EXPECT_EQ(list_->ListIndex(), -2);
   EXPECT_EQ(ErrorCodeOf([&] { list_->ListIndex(3); }), 380);
   EXPECT_EQ(ErrorCodeOf([&] { list_->ListIndex(-3); }), 380);
+  EXPECT_EQ(ErrorCodeOf([&] { list_->ListIndex(32766); }), 380);
+  EXPECT_EQ(ErrorCodeOf([&] { list_->ListIndex(32767); }), GetParam().failureOfTheHighestNumber);
   EXPECT_EQ(recorder_->Take(), Texts{});
 }
 
@@ -185,36 +189,35 @@ TEST_P(StrategyListControlTest, GoesBackSilentlyToARowThatIsUnusableItself) {
   EXPECT_EQ(recorder_->Take(), Texts{});
 }
 
-/// A site that does nothing but beep.
-class BeepSite final : public Site {
- public:
-  std::function<void()> OnBeep;
-
-  tactix::Font AmbientFont() const override { return {}; }
-  Color AmbientForeColor() const override { return WindowTextColor; }
-  Color AmbientBackColor() const override { return WindowColor; }
-  bool UserMode() const override { return true; }
-  void PropertyChanged(std::string_view) override {}
-  void StartTimer(Timer&) override {}
-  void StopTimer(Timer&) override {}
-  void RunUntil(const std::function<bool()>&) override {}
-  void Beep() override { OnBeep(); }
-  void PopUp(Menu&, Widget&, float, float) override {}
-  float ScreenWidth() const override { return 0; }
-  float ScreenHeight() const override { return 0; }
-  void SetFocus(Widget*) override {}
-  Widget* Focus() const override { return nullptr; }
-  void MadeDefault(PushButton&) override {}
-  void Unhandled(const Error&) override {}
-};
-
 TEST_P(StrategyListControlTest, ABeepMayDestroyIt) {
-  BeepSite site;
+  BareSite site;
   list_ = GetParam().make(site);
   site.OnBeep = [this] { list_.reset(); };
   list_->AddItem("Not Present", 0);
   list_->ListIndex(-1);
   EXPECT_EQ(list_, nullptr);
+}
+
+TEST_P(StrategyListControlTest, LosingTheFocusMayDestroyIt) {
+  BareSite site;
+  list_ = GetParam().make(site);
+  site.Focused = &Box();
+  site.OnSetFocus = [&] {
+    site.Focused = nullptr;
+    list_.reset();
+  };
+  list_->Enabled(false);
+  EXPECT_EQ(list_, nullptr);
+}
+
+TEST_P(StrategyListControlTest, AChangeOfItsTextMayDestroyIt) {
+  using Setter = void (StrategyListControl::*)(std::string_view);
+  for (const Setter set : {Setter{&StrategyListControl::Text}, Setter{&StrategyListControl::DefaultContent}}) {
+    StartOver();
+    Box().Changed.Connect([this] { list_.reset(); });
+    (list_.get()->*set)("x");
+    EXPECT_EQ(list_, nullptr);
+  }
 }
 
 // Saving.
@@ -261,6 +264,29 @@ TEST_P(StrategyListControlTest, AnEmptyBagGivesTheDefaults) {
   EXPECT_EQ(list_->ToolTipText(), "");
   EXPECT_EQ(list_->Font(), (Font{"Ambient", 11}));
   EXPECT_NE(list_->Text(), "") << "an empty stored text leaves the text that is there";
+}
+
+TEST_P(StrategyListControlTest, TheDefaultContentIsWrittenAndNotRead) {
+  list_->DefaultContent("content");
+  MemoryPropertyBag bag;
+  list_->WriteProperties(bag);
+  EXPECT_EQ(bag.Read("DefaultContent"), Variant("content"));
+  bag.Remove("Text");
+  StartOver();
+  list_->Text("before");
+  list_->ReadProperties(bag);
+  EXPECT_NE(list_->DefaultContent(), "content");
+}
+
+TEST_P(StrategyListControlTest, ReadingIsNotAnnounced) {
+  GetParam().describe(*catalogue_);
+  MemoryPropertyBag bag;
+  bag.Write("Text", "text");
+  bag.Write("CountStrategy", 0);
+  list_->ReadProperties(bag);
+  EXPECT_EQ(list_->Text(), "text");
+  EXPECT_EQ(site_.Changes(), Texts{});
+  EXPECT_EQ(recorder_->Take(), Texts{});
 }
 
 TEST_P(StrategyListControlTest, AFailingEntryIsSkippedOrEndsTheLoad) {
@@ -355,13 +381,20 @@ TEST_P(StrategyListControlTest, StoresTheCountOfTheCollection) {
   list_->UseThisStrategyList(collection);
   EXPECT_EQ(list_->StrategyCount(), 12);
   EXPECT_EQ(collection.use_count(), 2);
-  const Texts before = Rows();
-  Fill();
-  catalogue_->OnCall = nullptr;
   list_->Terminated();
   EXPECT_EQ(collection.use_count(), GetParam().releasesTheCollection ? 1 : 2);
   list_.reset();
   EXPECT_EQ(collection.use_count(), 1);
+}
+
+TEST_P(StrategyListControlTest, AFillTakesNothingFromTheCollection) {
+  GetParam().describe(*catalogue_);
+  list_->LoadStrategiesFromIniFile();
+  const Texts rows = Rows();
+  list_->UseThisStrategyList(std::make_shared<FakeCollection>(2));
+  list_->LoadStrategiesFromIniFile();
+  EXPECT_EQ(Rows(), rows);
+  EXPECT_GT(rows.size(), 2U);
 }
 
 TEST_P(StrategyListControlTest, ACollectionThatIsNoneFailsAndLeavesTheCount) {
@@ -422,6 +455,42 @@ TEST_P(StrategyListControlTest, AFillStartsOverAndReportsNothing) {
   EXPECT_EQ(list_->ListIndex(), -2);
   EXPECT_EQ(list_->LastGoodListIndex(), 3);
   EXPECT_EQ(recorder_->Take(), Texts{});
+}
+
+TEST_P(StrategyListControlTest, AFailureOfTheBoxEndsTheFill) {
+  class FailingObserver final : public WidgetObserver {
+   public:
+    void Changed(Widget&, Aspect) override {}
+    void RowInserted(ListBox&, std::int32_t) override { throw Error(1234); }
+    void Gone(Widget&) override {}
+  } observer;
+  GetParam().describe(*catalogue_);
+  list_->Text("before");
+  Box().Observe(&observer);
+  EXPECT_EQ(ErrorCodeOf([&] { list_->LoadStrategiesFromIniFile(); }), GetParam().reportsFailedFill ? 1234 : 0);
+  Box().Observe(nullptr);
+  EXPECT_EQ(list_->Text(), "before");
+  EXPECT_GE(Rows().size(), 1U) << "rows that were added stay";
+}
+
+TEST_P(StrategyListControlTest, ACatalogueMayBeReplacedInEachOfItsCalls) {
+  for (const std::string& when : GetParam().calls) {
+    StartOver();
+    auto catalogue = std::make_shared<FakeCatalogue>();
+    GetParam().describe(*catalogue);
+    const std::weak_ptr<FakeCatalogue> alive = catalogue;
+    bool isReplaced = false;
+    catalogue->OnCall = [&](const std::string& call) {
+      if (call != when) return;
+      isReplaced = true;
+      StrategyListData::UseCatalogue(nullptr);
+      EXPECT_FALSE(alive.expired()) << "as long as it runs";
+    };
+    StrategyListData::UseCatalogue(std::move(catalogue));
+    ErrorCodeOf([&] { list_->LoadStrategiesFromIniFile(); });
+    EXPECT_TRUE(isReplaced) << when;
+    EXPECT_TRUE(alive.expired());
+  }
 }
 
 TEST_P(StrategyListControlTest, ACatalogueMayDestroyItInEachOfItsCalls) {

@@ -10,16 +10,11 @@
 #include "tactix/platform/Utf8.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/FakeCatalogue.h"
+#include "tests/support/Repeated.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
 namespace {
-
-std::string Repeated(std::size_t times, const std::string& text) {
-  std::string repeated;
-  for (std::size_t i = 0; i < times; ++i) repeated += text;
-  return repeated;
-}
 
 struct BufferRow {
   const char* name;
@@ -53,6 +48,14 @@ INSTANTIATE_TEST_SUITE_P(
     RowName());
 
 TEST(DescriptionBufferTest, IsBlankAtFirst) { EXPECT_EQ(DescriptionBuffer().Text(), std::string(1024, ' ')); }
+
+TEST(DescriptionBufferTest, IsPaddedAnewAfterEachText) {
+  DescriptionBuffer buffer;
+  for (const char* text : {"\xE2\x99\xA0", "a long text in ASCII", "short"}) buffer.Write(text);
+  EXPECT_EQ(buffer.Text(), "short" + std::string(1019, ' '));
+  for (const char* text : {"\xE2\x99\xA0\xE2\x99\xA0\xE2\x99\xA0", "x"}) buffer.Write(text);
+  EXPECT_EQ(buffer.Text(), "x" + std::string(1023, ' '));
+}
 
 TEST(DescriptionBufferTest, TakesAPieceOfItself) {
   DescriptionBuffer buffer;
@@ -115,7 +118,7 @@ class StrategyListDataTest : public testing::Test {
     StrategyListData::CreateCatalogueWith(nullptr);
   }
   static std::int32_t CodeOfUse() {
-    return ErrorCodeOf([] { return &StrategyListData::Catalogue(); });
+    return ErrorCodeOf([] { return StrategyListData::Catalogue().get(); });
   }
 };
 
@@ -140,8 +143,8 @@ TEST_F(StrategyListDataTest, CreatesOnceAtTheFirstUse) {
     return made;
   });
   EXPECT_EQ(calls, 0);
-  EXPECT_EQ(&StrategyListData::Catalogue(), made.get());
-  EXPECT_EQ(&StrategyListData::Catalogue(), made.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), made.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), made.get());
   EXPECT_EQ(calls, 1);
 }
 
@@ -150,16 +153,16 @@ TEST_F(StrategyListDataTest, KeepsWhatWasMadeWhenTheFactoryChanges) {
   StrategyListData::CreateCatalogueWith([&] { return made; });
   StrategyListData::Catalogue();
   StrategyListData::CreateCatalogueWith(nullptr);
-  EXPECT_EQ(&StrategyListData::Catalogue(), made.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), made.get());
 }
 
 TEST_F(StrategyListDataTest, UsesTheHostsCatalogueBeforeTheFactory) {
   StrategyListData::CreateCatalogueWith([] { return std::make_shared<FakeCatalogue>(); });
   const auto own = std::make_shared<FakeCatalogue>();
   StrategyListData::UseCatalogue(own);
-  EXPECT_EQ(&StrategyListData::Catalogue(), own.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), own.get());
   StrategyListData::UseCatalogue(nullptr);
-  EXPECT_NE(&StrategyListData::Catalogue(), own.get());
+  EXPECT_NE(StrategyListData::Catalogue().get(), own.get());
 }
 
 TEST_F(StrategyListDataTest, KeepsTheCatalogueAlive) {
@@ -185,7 +188,7 @@ TEST_F(StrategyListDataTest, LetsTheFactoryReplaceItself) {
     StrategyListData::CreateCatalogueWith(nullptr);
     return witness;  // the capture must have outlived the replacement
   });
-  EXPECT_EQ(&StrategyListData::Catalogue(), witness.get());
+  EXPECT_EQ(StrategyListData::Catalogue().get(), witness.get());
 }
 
 TEST_F(StrategyListDataTest, HasOneBuffer) {

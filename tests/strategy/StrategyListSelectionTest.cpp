@@ -114,23 +114,6 @@ TEST_F(FilledStrategyListTest, GoesBackToARowThatHasBecomeUnusable) {
   EXPECT_EQ(site_.Beeps(), 2);
 }
 
-TEST_F(FilledStrategyListTest, ALastGoodRowThatIsGoneFailsAfterTheBeep) {
-  list_->ListIndex(40);
-  catalogue_->Range.HighestPlayingStrategy = 5;
-  list_->LoadStrategiesFromIniFile();
-  recorder_.Forget();
-  EXPECT_EQ(ErrorCodeOf([&] { list_->ListIndex(4); }), 380);
-  EXPECT_EQ(site_.Beeps(), 1);
-  EXPECT_EQ(list_->ListIndex(), 4);
-  EXPECT_EQ(recorder_.Take(), Texts{});
-  // Refusing goes on as before.
-  list_->ListIndex(3);
-  EXPECT_EQ(recorder_.Take(), Texts{"StrategySelectionChanged#1(3)"});
-  list_->ListIndex(4);
-  EXPECT_EQ(list_->ListIndex(), 3);
-  EXPECT_EQ(site_.Beeps(), 2);
-}
-
 TEST_F(FilledStrategyListTest, OnlyTheExactTextIsRefused) {
   for (const char* text : {"not present", "Not Present ", "Not"}) {
     list_->AddItem(text, 3);
@@ -183,15 +166,6 @@ TEST_F(FilledStrategyListTest, ATextThatIsNotTheRowsDeselectsSilently) {
 }
 
 class StrategyListRowTest : public StrategyListFixture {};
-
-TEST_F(StrategyListRowTest, AddsRowsOfTheHosts) {
-  list_->AddItem("a");
-  list_->AddItem("c");
-  list_->AddItem("b", 1);
-  EXPECT_EQ(Rows(), (Texts{"a", "b", "c"}));
-  EXPECT_EQ(ErrorCodeOf([&] { list_->AddItem("d", 4); }), 5);
-  EXPECT_EQ(ErrorCodeOf([&] { list_->AddItem("d", -1); }), 5);
-}
 
 TEST_F(StrategyListRowTest, ARowNumberBeyondSixteenBitsFails) {
   for (int i = 0; i < 32770; ++i) list_->AddItem("row");

@@ -56,6 +56,21 @@ TEST_F(StrategyListTest, FillsOneRowForEachStrategyNumber) {
   EXPECT_EQ(recorder_.Take(), Texts{});
 }
 
+TEST_F(StrategyListTest, WritesTheNumberBeforeItAsks) {
+  Texts seen;
+  catalogue_->Range.HighestPlayingStrategy = 100;
+  catalogue_->OnCall = [&](const std::string& call) {
+    if (call != "Range") seen.push_back(StrategyListData::Buffer().Text().substr(0, 4));
+  };
+  list_->LoadStrategiesFromIniFile();
+  ASSERT_EQ(seen.size(), 204U);
+  EXPECT_EQ(seen[0], "-01 ");
+  EXPECT_EQ(seen[2], "00  ");
+  EXPECT_EQ(seen[22], "10  ");
+  EXPECT_EQ(seen[202], "100 ");
+  EXPECT_EQ(seen[203], "    ") << "the empty answer";
+}
+
 TEST_F(StrategyListTest, AsksForEachDescriptionTwice) {
   catalogue_->Range.HighestPlayingStrategy = 1;
   list_->LoadStrategiesFromIniFile();
@@ -199,39 +214,7 @@ TEST_F(StrategyListTest, FailsWithoutACatalogue) {
   EXPECT_EQ(ErrorCodeOf([&] { list_->InputPlayingStrategyDescriptions(); }), 91);
 }
 
-TEST_F(StrategyListTest, ACatalogueMayDestroyTheListInTheMiddleOfAFill) {
-  for (const char* when : {"Range", "Playing -1", "Playing 1"}) {
-    list_ = std::make_unique<StrategyList>(site_);
-    catalogue_->Describe(3);
-    catalogue_->Log.clear();
-    catalogue_->OnCall = [&](const std::string& call) {
-      if (call == when) list_.reset();
-    };
-    list_->LoadStrategiesFromIniFile();
-    EXPECT_EQ(list_, nullptr);
-    EXPECT_NE(catalogue_->Log.back(), "Playing 2") << when;
-  }
-}
-
 // The host's collection.
-
-TEST_F(StrategyListTest, StoresTheCountOfTheCollection) {
-  const auto collection = std::make_shared<FakeCollection>("12");
-  list_->UseThisStrategyList(collection);
-  EXPECT_EQ(list_->StrategyCount(), 12);
-  EXPECT_EQ(collection.use_count(), 2);
-  list_->Terminated();
-  EXPECT_EQ(collection.use_count(), 1);
-  EXPECT_EQ(list_->StrategyCount(), 12);
-}
-
-TEST_F(StrategyListTest, TheCollectionGivesNoRows) {
-  catalogue_->Describe(1);
-  list_->UseThisStrategyList(std::make_shared<FakeCollection>(40));
-  EXPECT_EQ(Rows(), Texts{});
-  list_->LoadStrategiesFromIniFile();
-  EXPECT_EQ(Rows().size(), 3U);
-}
 
 struct CountRow {
   const char* name;

@@ -10,6 +10,7 @@
 #include "tactix/platform/PropertyBag.h"
 #include "tactix/platform/headless/HeadlessSite.h"
 #include "tests/platform/ErrorCode.h"
+#include "tests/support/BareSite.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/FakeCatalogue.h"
 #include "tests/support/LoggingBag.h"
@@ -251,6 +252,15 @@ TEST_F(StrategyMarquixTest, ASavedFormBringsTheCaptionOnly) {
   EXPECT_FALSE(other.Children.optStrategySelected.Value());
 }
 
+TEST_F(StrategyMarquixTest, ASavedDesignCaptionReplacesAnother) {
+  MemoryPropertyBag bag;
+  marquee_->WriteProperties(bag);
+  StrategyMarquix other(site_);
+  other.Caption("x");
+  other.ReadProperties(bag);
+  EXPECT_EQ(other.Caption(), "Strategy Un-defined");
+}
+
 TEST_F(StrategyMarquixTest, TakesWhatABagHasUnderTheReadNames) {
   MemoryPropertyBag bag;
   bag.Write("Control Type", 2);
@@ -292,6 +302,22 @@ TEST_F(StrategyMarquixTest, ABagMayDestroyIt) {
     marquee_->ReadProperties(bag);
     EXPECT_EQ(bag.log.back(), std::string("read ") + when);
   }
+}
+
+TEST_F(StrategyMarquixTest, AMarkThatIsHiddenWithTheFocusMayDestroyIt) {
+  BareSite site;
+  marquee_ = std::make_unique<StrategyMarquix>(site);
+  marquee_->ControlType(2);
+  site.Focused = &Mark();
+  site.OnSetFocus = [&] {
+    site.Focused = nullptr;
+    marquee_.reset();
+  };
+  LoggingBag bag;
+  bag.stored.Write("Control Type", 0);
+  marquee_->ReadProperties(bag);
+  EXPECT_EQ(marquee_, nullptr);
+  EXPECT_EQ(bag.log.back(), "read Control Type");
 }
 
 TEST_F(StrategyMarquixTest, ItsElementsFillItWithoutOverlapping) {

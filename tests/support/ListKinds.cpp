@@ -48,6 +48,7 @@ ListKind KindOf(std::string name) {
 std::vector<ListKind> MakeKinds() {
   ListKind playing = KindOf<StrategyList>("StrategyList");
   playing.highestReportedRow = 55;
+  playing.reportsFailedFill = true;
   playing.releasesTheCollection = true;
 
   ListKind compact = KindOf<StrategyListLITE>("StrategyListLITE");
@@ -57,6 +58,7 @@ std::vector<ListKind> MakeKinds() {
   compact.releasesTheCollection = true;
 
   ListKind betting = KindOf<BetStrategyList>("BetStrategyList");
+  betting.reportsFailedFill = true;
   betting.boxName = "BetStrategyListBox";
   betting.toolTip = "Click the down-arrow to open the Betting Strategy List";
   betting.describe = [](FakeCatalogue& catalogue) { catalogue.DescribeBetting(4); };
@@ -68,6 +70,7 @@ std::vector<ListKind> MakeKinds() {
   count.saved = {"CountStrategy", "BackColor", "ForeColor", "ToolTipText", "Font", "DefaultContent", "Text", "Enabled"};
   count.reportsFailedWrite = true;
   count.reportsFailedResize = true;
+  count.failureOfTheHighestNumber = 6;
   count.takesTheHeight = false;
   count.reported = [](std::int32_t row, const std::string& text) {
     return "StrategySelectionChanged#1(" + std::to_string(row + 10) + ", " + text + ")";

@@ -33,6 +33,9 @@ struct ListKind {
   /// As saved; all but "DefaultContent" are read back.
   std::vector<std::string> saved = {"Enabled",     "BackColor",      "ForeColor", "Text",
                                     "ToolTipText", "DefaultContent", "Font"};
+  /// What a write of 32767 to ListIndex fails with.
+  std::int32_t failureOfTheHighestNumber = 380;
+  bool reportsFailedFill = false;
   bool reportsFailedRead = false;
   bool reportsFailedWrite = false;
   bool reportsFailedResize = false;

@@ -72,7 +72,10 @@ void StrategyListModel::FillRow(int number) {
   std::string caption = Cut(rest, ',');
   bool isShifted = rest.find('\\') != std::string::npos;
   std::string presence = rest.substr(0, 1);
-  if (list_ == ModelledList::Compact) {
+  if (list_ == ModelledList::Compact && rest.find(' ') == std::string::npos) {
+    std::string whole = StrategyListData::Buffer().Text();
+    presence = Cut(whole, ' ');
+  } else if (list_ == ModelledList::Compact) {
     isShifted = Flag(Cut(rest, ' '));
     if (isShifted) Unshifted(note);
     if (isShifted) caption = Unshifted(caption);

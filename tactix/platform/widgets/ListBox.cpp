@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "tactix/platform/Error.h"
+#include "tactix/platform/Tolerance.h"
 
 namespace tactix {
 
@@ -35,7 +36,11 @@ void ListBox::Append(std::string item) {
 ListBox::Appending::Appending(ListBox& list) : list_(list) { ++list.appendings_; }
 
 ListBox::Appending::~Appending() {
-  ListBox* const list = list_.Get();
+  IgnoringErrors([this] { End(); });
+}
+
+void ListBox::Appending::End() {
+  ListBox* const list = std::exchange(list_, Weak<ListBox>()).Get();
   if (list && --list->appendings_ == 0) list->ShowAppended();
 }
 
@@ -68,18 +73,18 @@ void ListBox::ListIndex(std::int32_t row) {
 }
 
 void ListBox::Text(std::string_view text) {
-  if (text == text_ && (row_ == -1 || text == SelectedText())) return;
-  const bool isNew = text != text_;
+  // As long as a row is selected, the text is that row's.
+  if (text == text_) return;
   text_.assign(text);
   ShowAppended();
   const Weak<ListBox> self(this);
-  if (row_ != -1 && text_ != SelectedText()) {
+  if (row_ != -1) {
     row_ = -1;
     Notify(Aspect::Row);
   }
   if (!self) return;
   Notify(Aspect::Text);
-  if (self && isNew) Changed.Raise();
+  if (self) Changed.Raise();
 }
 
 void ListBox::Select(std::int32_t row) {
