@@ -33,9 +33,12 @@ QString Unshifted(const QString& text) {
   return unshifted;
 }
 
-QString RowOf(int number, bool present, const QString& caption) {
+const QString NotPresent = QStringLiteral("Not Present");
+const QString EmptySeat = QStringLiteral("Empty Seat");
+
+QString RowOf(int number, bool present, const QString& caption, const QString& seat) {
   if (present && number >= 0) return caption;
-  return number == -1 ? QStringLiteral("Empty Seat") : QStringLiteral("Not Present");
+  return number == -1 ? seat : NotPresent;
 }
 
 void Finish(QComboBox& box) {
@@ -43,9 +46,7 @@ void Finish(QComboBox& box) {
   box.setPlaceholderText(QStringLiteral("Select a Strategy"));
 }
 
-}  // namespace
-
-void FillWithStrategies(QComboBox& box, StrategyCatalogue& catalogue) {
+void Fill(QComboBox& box, StrategyCatalogue& catalogue, const QString& seat) {
   const StrategyRange range = catalogue.GetStrategyRange();
   box.clear();
   for (std::int16_t i = -1; i <= range.HighestPlayingStrategy; ++i) {
@@ -58,10 +59,16 @@ void FillWithStrategies(QComboBox& box, StrategyCatalogue& catalogue) {
       if (IsTrue(flags[0])) parts.caption = Unshifted(parts.caption);
       present = flags.size() > 1 && IsTrue(flags[1]);
     }
-    box.addItem(RowOf(i, present, parts.caption));
+    box.addItem(RowOf(i, present, parts.caption, seat));
   }
   Finish(box);
 }
+
+}  // namespace
+
+void FillWithStrategies(QComboBox& box, StrategyCatalogue& catalogue) { Fill(box, catalogue, NotPresent); }
+
+void FillCompactly(QComboBox& box, StrategyCatalogue& catalogue) { Fill(box, catalogue, EmptySeat); }
 
 void FillWithBets(QComboBox& box, StrategyCatalogue& catalogue) {
   const StrategyRange range = catalogue.GetStrategyRange();
@@ -73,7 +80,7 @@ void FillWithBets(QComboBox& box, StrategyCatalogue& catalogue) {
     const QString description = QString::fromStdString(catalogue.DescribeBettingStrategy(number));
     Parts parts(description);
     if (parts.rest.contains(QLatin1Char('\\'))) parts.caption = Unshifted(parts.caption);
-    box.addItem(RowOf(i, IsTrue(QStringView(parts.rest).left(1)), parts.caption));
+    box.addItem(RowOf(i, IsTrue(QStringView(parts.rest).left(1)), parts.caption, EmptySeat));
   }
   Finish(box);
 }
@@ -97,7 +104,7 @@ void FillWithCounts(QComboBox& box, StrategyCatalogue& catalogue) {
     count.note = parts.note;
     count.name = parts.caption;
     if (fields.size() < 6 || !IsTrue(fields[1])) {
-      box.addItem(QStringLiteral("Not Present"));
+      box.addItem(NotPresent);
       continue;
     }
     for (std::size_t k = 0; k < count.settings.size(); ++k) {
@@ -111,6 +118,12 @@ void FillWithCounts(QComboBox& box, StrategyCatalogue& catalogue) {
 void FillWithTexts(QComboBox& box, const QStringList& texts) {
   box.clear();
   for (const QString& text : texts) box.addItem(text);
+  Finish(box);
+}
+
+void FillWithTextsAtOnce(QComboBox& box, const QStringList& texts) {
+  box.clear();
+  box.addItems(texts);
   Finish(box);
 }
 

@@ -23,6 +23,7 @@ constexpr tactix::bench::Figure Figures[] = {
      .counter = "described",
      .most = 1.25},
     {.what = "  beside a QComboBox, ready texts", .benchmark = "FillStrategyListOnQt", .counter = "bare", .most = 1.25},
+    {.what = "  beside a QComboBox, ready texts at once", .benchmark = "FillStrategyListOnQt", .counter = "at once"},
     {.what = "  with ten times the strategies", .benchmark = "FillStrategyListOnQt", .counter = "tenfold", .most = 11},
     {.what = "filling the compact list with 55 strategies on Qt", .benchmark = "FillCompactListOnQt"},
     {.what = "  beside a QComboBox, same descriptions",
@@ -30,6 +31,7 @@ constexpr tactix::bench::Figure Figures[] = {
      .counter = "described",
      .most = 1.25},
     {.what = "  beside a QComboBox, ready texts", .benchmark = "FillCompactListOnQt", .counter = "bare", .most = 1.25},
+    {.what = "  beside a QComboBox, ready texts at once", .benchmark = "FillCompactListOnQt", .counter = "at once"},
     {.what = "  with ten times the strategies", .benchmark = "FillCompactListOnQt", .counter = "tenfold", .most = 11},
     {.what = "filling the list with 55 betting strategies on Qt", .benchmark = "FillBettingListOnQt"},
     {.what = "  beside a QComboBox, same descriptions",
@@ -37,6 +39,7 @@ constexpr tactix::bench::Figure Figures[] = {
      .counter = "described",
      .most = 1.25},
     {.what = "  beside a QComboBox, ready texts", .benchmark = "FillBettingListOnQt", .counter = "bare", .most = 1.25},
+    {.what = "  beside a QComboBox, ready texts at once", .benchmark = "FillBettingListOnQt", .counter = "at once"},
     {.what = "  with ten times the strategies", .benchmark = "FillBettingListOnQt", .counter = "tenfold", .most = 11},
     {.what = "filling the list with 28 count systems on Qt", .benchmark = "FillCountListOnQt"},
     {.what = "  beside a QComboBox, same descriptions",
@@ -44,6 +47,7 @@ constexpr tactix::bench::Figure Figures[] = {
      .counter = "described",
      .most = 1.25},
     {.what = "  beside a QComboBox, ready texts", .benchmark = "FillCountListOnQt", .counter = "bare", .most = 1.25},
+    {.what = "  beside a QComboBox, ready texts at once", .benchmark = "FillCountListOnQt", .counter = "at once"},
     {.what = "processor time of a 1.6 s flash", .benchmark = "Flash", .most = FlashLimit},
 };
 

@@ -1,6 +1,6 @@
 // Filling the lists, beside a QComboBox that is filled from the same descriptions, one that gets the row texts ready,
-// and the list itself with ten times the strategies. All are filled turn and turn about, so that what else the machine
-// does falls on all alike; the counters are medians of the ratios.
+// one by one or at once, and the list itself with ten times the strategies. All are filled turn and turn about, so that
+// what else the machine does falls on all alike; the counters are medians of the ratios.
 
 #include <benchmark/benchmark.h>
 
@@ -28,18 +28,20 @@ using tactix::bench::TextCatalogue;
 using HandWritten = void (*)(QComboBox&, StrategyCatalogue&);
 
 constexpr int Strategies = 55;
+constexpr int Tenfold = 10;
 constexpr int FillsAtATime = 20;
+constexpr int Turns = 30;
 
-/// Processor seconds of one fill.
-double TimeOf(const std::function<void()>& fill) {
+/// Processor seconds of one fill, the mean of that many.
+double TimeOf(const std::function<void()>& fill, int fills = FillsAtATime) {
   const auto now = [] {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
   };
   const double start = now();
-  for (int i = 0; i < FillsAtATime; ++i) fill();
-  return (now() - start) / FillsAtATime;
+  for (int i = 0; i < fills; ++i) fill();
+  return (now() - start) / fills;
 }
 
 double MedianOf(std::vector<double> values) {
@@ -65,7 +67,7 @@ QStringList RowsOf(const QComboBox& box) {
 template <class List>
 void Compare(benchmark::State& state, HandWritten byHand) {
   const auto catalogue = std::make_shared<TextCatalogue>(Strategies);
-  const auto tenfold = std::make_shared<TextCatalogue>(10 * Strategies);
+  const auto tenfold = std::make_shared<TextCatalogue>(Tenfold * Strategies);
   List list;
   list.show();
   const auto described = MakeBox();
@@ -79,19 +81,22 @@ void Compare(benchmark::State& state, HandWritten byHand) {
 
   std::vector<double> besideDescribed;
   std::vector<double> besideBare;
+  std::vector<double> besideAtOnce;
   std::vector<double> tenfoldBeside;
   const auto load = [&list] { list.LoadStrategiesFromIniFile(); };
   for (auto _ : state) {
     const double time = TimeOf(load);
     besideDescribed.push_back(time / TimeOf([&] { byHand(*described, *catalogue); }));
     besideBare.push_back(time / TimeOf([&] { tactix::bench::FillWithTexts(*bare, texts); }));
+    besideAtOnce.push_back(time / TimeOf([&] { tactix::bench::FillWithTextsAtOnce(*bare, texts); }));
     StrategyListData::UseCatalogue(tenfold);
-    tenfoldBeside.push_back(TimeOf(load) / time);
+    tenfoldBeside.push_back(TimeOf(load, FillsAtATime / Tenfold) / time);
     StrategyListData::UseCatalogue(catalogue);
     state.SetIterationTime(time);
   }
   state.counters["described"] = MedianOf(besideDescribed);
   state.counters["bare"] = MedianOf(besideBare);
+  state.counters["at once"] = MedianOf(besideAtOnce);
   state.counters["tenfold"] = MedianOf(tenfoldBeside);
 }
 
@@ -99,7 +104,7 @@ void FillStrategyListOnQt(benchmark::State& state) {
   Compare<tactix::qt::StrategyList>(state, tactix::bench::FillWithStrategies);
 }
 void FillCompactListOnQt(benchmark::State& state) {
-  Compare<tactix::qt::StrategyListLITE>(state, tactix::bench::FillWithStrategies);
+  Compare<tactix::qt::StrategyListLITE>(state, tactix::bench::FillCompactly);
 }
 void FillBettingListOnQt(benchmark::State& state) {
   Compare<tactix::qt::BetStrategyList>(state, tactix::bench::FillWithBets);
@@ -108,9 +113,9 @@ void FillBettingListOnQt(benchmark::State& state) {
 void FillCountListOnQt(benchmark::State& state) {
   Compare<tactix::qt::CountStrategyList>(state, tactix::bench::FillWithCounts);
 }
-BENCHMARK(FillStrategyListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillCompactListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillBettingListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(FillCountListOnQt)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillStrategyListOnQt)->UseManualTime()->Iterations(Turns)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillCompactListOnQt)->UseManualTime()->Iterations(Turns)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillBettingListOnQt)->UseManualTime()->Iterations(Turns)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FillCountListOnQt)->UseManualTime()->Iterations(Turns)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

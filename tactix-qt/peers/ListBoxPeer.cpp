@@ -38,11 +38,10 @@ void ListBoxPeer::RowInserted(ListBox& box, std::int32_t row) {
 }
 
 void ListBoxPeer::RowsAppended(ListBox& box, std::int32_t first, std::int32_t rows) {
-  QStringList texts;
-  texts.reserve(rows);
   // A peer that was made in the middle has some of them.
-  for (std::int32_t row = std::max(first, count()); row < first + rows; ++row) texts += ToQt(box.List(row));
-  insertItems(count(), texts);
+  for (std::int32_t row = std::max(first, count()); row < first + rows; ++row) appended_ += ToQt(box.List(row));
+  insertItems(count(), appended_);
+  appended_.clear();
   if (currentIndex() != box.ListIndex()) setCurrentIndex(box.ListIndex());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QStringList>
 
 #include "tactix-qt/FittedText.h"
 #include "tactix-qt/peers/Peer.h"
@@ -38,6 +39,7 @@ class TACTIX_QT_EXPORT ListBoxPeer final : public NativePeer<QComboBox, ListBox>
   int TextFlags() const;
 
   FittedText fitted_;
+  QStringList appended_;  // empty but for its memory, which the next fill takes
 };
 
 }  // namespace tactix::qt
