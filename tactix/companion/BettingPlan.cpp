@@ -59,7 +59,7 @@ BettingPlan::BettingPlan(const IniFile& file, const IniEntry& entry) {
   for (std::size_t i = 1; i < words.size(); ++i) units_.push_back(ToUnits(file, entry, words[i]));
 }
 
-int BettingPlan::UnitsFor(int trueCount, int run) const {
+int BettingPlan::UnitsFor(int count, int run) const {
   const int last = static_cast<int>(units_.size()) - 1;
   const int wins = std::max(run, 0);
   int step = 0;
@@ -67,7 +67,7 @@ int BettingPlan::UnitsFor(int trueCount, int run) const {
     case BettingRule::Flat:
       break;
     case BettingRule::TrueCount:
-      step = std::clamp(trueCount, 1, last + 1) - 1;
+      step = std::clamp(count, 1, last + 1) - 1;
       break;
     case BettingRule::WinProgression:
       step = std::min(wins, last);

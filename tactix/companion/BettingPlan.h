@@ -10,7 +10,7 @@ namespace tactix::companion {
 
 enum class BettingRule : std::uint8_t {
   Flat,            ///< flat: one unit on every hand
-  TrueCount,       ///< true-count 1 2 4: the first number up to a true count of 1, then one number a count
+  TrueCount,       ///< true-count 1 2 4: the first number up to a count of 1, then one number a count
   WinProgression,  ///< win-progression 1 2 3: the first number, then one number a win in a row, and stays on the last
   WinCycle,        ///< win-cycle 1 3 2 6: likewise, but begins again after the last
 };
@@ -25,9 +25,9 @@ class TACTIX_EXPORT BettingPlan {
   BettingPlan(const IniFile& file, const IniEntry& entry);
 
   BettingRule Rule() const { return rule_; }
-  /// 1 ... MostUnits. The true count is a whole number, rounded down. `run` is how the last hands ended: 3 after three
-  /// wins in a row, -2 after two losses, 0 before the first hand. Pushes leave a run as it is.
-  int UnitsFor(int trueCount, int run) const;
+  /// 1 ... MostUnits. The count is a true count that the host works out, a whole number. `run` is how the last hands
+  /// ended: 3 after three wins in a row, -2 after two losses, 0 before the first hand. Pushes leave a run as it is.
+  int UnitsFor(int count, int run) const;
 
   bool operator==(const BettingPlan&) const = default;
 

@@ -38,8 +38,9 @@ SpinCounter::SpinCounter(Site& site) : Control(site) {
   Extender().DesignSize(FixedWidth, StandardHeight);
   Label& label = Children.labelCardsInStack;
   SpinButton& spin = Children.SpinButton;
-  Extender().Add(label, "labelCardsInStack");
+  // The number is in front: mounted at the bottom, the two overlap.
   Extender().Add(spin, "SpinButton");
+  Extender().Add(label, "labelCardsInStack");
   label.Caption("(###)");
   label.Font({"Comic Sans MS", SizeOfFont});
   label.Alignment(TextAlignment::Center);

@@ -71,8 +71,8 @@ class TACTIX_EXPORT SpinCounter : public Control {
 
   /// Their places are in pixels.
   struct ChildWidgets {
-    Label labelCardsInStack;
     tactix::SpinButton SpinButton;
+    Label labelCardsInStack;
   } Children;
 
  private:

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "tactix/companion/Companion.h"
+#include "tactix/strategy/StrategyListData.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/InstalledCounterValues.h"
 
@@ -44,6 +45,7 @@ TEST(CounterValueObjectTest, TheCompanionFillsTheHook) {
   value->StepDownWrapping(52);
   EXPECT_EQ(value->Value(), 52);
   CounterValueObject::CreateWith(nullptr);
+  StrategyListData::CreateCatalogueWith(nullptr);
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ TEST_F(SpinCounterTest, HasItsDesign) {
   const SpinCounter designed(*site_);
   const auto children = designed.Extender().Children();
   ASSERT_EQ(children.size(), 2U);
-  EXPECT_EQ(children[0]->Name(), "labelCardsInStack");
-  EXPECT_EQ(children[1]->Name(), "SpinButton");
+  EXPECT_EQ(children[0]->Name(), "SpinButton");
+  EXPECT_EQ(children[1]->Name(), "labelCardsInStack") << "in front: mounted at the bottom, the two overlap";
   EXPECT_EQ(designed.Children.labelCardsInStack.Caption(), "(###)");
   EXPECT_EQ(designed.Children.labelCardsInStack.Font().Name, "Comic Sans MS");
   EXPECT_EQ(designed.Extender().Width(), 1500);

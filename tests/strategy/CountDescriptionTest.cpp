@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TextsRow{"BlanksInTheTexts", " a note , Name ,0 1 ", true, " Name ", " a note "},
                     TextsRow{"Enciphered", "*xy~o*,*Rs7Yz~*,True True ", true, " Hi-Opt ", "note", true},
                     TextsRow{"EncipheredBeyondTheWidth",
-                             std::string(65, 'k') + "\x09," + std::string(66, 'l') + ",1 1 ", true,
+                             std::string(65, 'k') + "\x09," + std::string(65, 'l') + "\x09,1 1 ", true,
                              std::string(65, 'b'), std::string(65, 'a'), true},
                     TextsRow{"EncipheredWide", "\xC3\xB3,\xC3\xB3l,1 1 ", true,
                              "\xC3\xA9"

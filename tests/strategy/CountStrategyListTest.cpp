@@ -196,7 +196,12 @@ TEST_F(CountStrategyListTest, ADescriptionThatCannotBeTestedIsParsed) {
     if (call == "Count 13" && ++seen == 1) throw Error(Error::ObjectNotSet);
   };
   list_->InputCountStrategyDescriptions();
+  EXPECT_EQ(seen, 2);
   EXPECT_EQ(Rows().size(), 2U) << "it is empty, and so has no comma, which ends the fill";
+  seen = 0;
+  catalogue_->DescribeCounts();
+  list_->InputCountStrategyDescriptions();
+  EXPECT_EQ(Rows().size(), 28U);
 }
 
 TEST_F(CountStrategyListTest, ADescriptionThatCannotBeHadLeavesTheLastOne) {

@@ -198,6 +198,16 @@ TEST_P(StrategyListControlTest, ABeepMayDestroyIt) {
   EXPECT_EQ(list_, nullptr);
 }
 
+TEST_P(StrategyListControlTest, GoingBackMayDestroyIt) {
+  SetRows(2);
+  list_->AddItem("Not Present");
+  Box().Clicked.Connect([this] {
+    if (Box().ListIndex() == 0) list_.reset();
+  });
+  list_->ListIndex(1);
+  EXPECT_EQ(list_, nullptr);
+}
+
 TEST_P(StrategyListControlTest, LosingTheFocusMayDestroyIt) {
   BareSite site;
   list_ = GetParam().make(site);

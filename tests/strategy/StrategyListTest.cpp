@@ -253,9 +253,17 @@ TEST_F(StrategyListTest, ACollectionMayDestroyTheListWhenItIsCounted) {
 
 TEST_F(StrategyListTest, ACollectionMayBeReplacedWhileItIsCounted) {
   auto first = std::make_shared<FakeCollection>(3);
-  first->OnCount = [&] { list_->UseThisStrategyList(std::make_shared<FakeCollection>(4)); };
-  list_->UseThisStrategyList(std::move(first));
+  const std::weak_ptr<FakeCollection> alive = first;
+  ObjectRef hosts;
+  first->OnCount = [&] {
+    hosts = std::make_shared<FakeCollection>(4);
+    list_->UseThisStrategyList(hosts);
+    EXPECT_FALSE(alive.expired()) << "as long as it runs";
+  };
+  hosts = std::move(first);
+  list_->UseThisStrategyList(hosts);
   EXPECT_EQ(list_->StrategyCount(), 3);
+  EXPECT_TRUE(alive.expired());
 }
 
 }  // namespace

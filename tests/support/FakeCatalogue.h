@@ -91,10 +91,13 @@ class FakeCatalogue final : public StrategyCatalogue {
   std::map<int, int> times_;
 };
 
-/// Puts a fake catalogue in the place of the process's own for as long as it lives.
+/// Puts a fake catalogue in the place of the process's own for as long as it lives; nothing then makes another one.
 class InstalledCatalogue {
  public:
-  InstalledCatalogue() { StrategyListData::UseCatalogue(catalogue_); }
+  InstalledCatalogue() {
+    StrategyListData::CreateCatalogueWith(nullptr);
+    StrategyListData::UseCatalogue(catalogue_);
+  }
   ~InstalledCatalogue() { StrategyListData::UseCatalogue(nullptr); }
   InstalledCatalogue(const InstalledCatalogue&) = delete;
   InstalledCatalogue& operator=(const InstalledCatalogue&) = delete;
