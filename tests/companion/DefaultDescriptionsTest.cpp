@@ -170,7 +170,7 @@ TEST(DefaultDescriptionsTest, CountSystems) {
       {33, "Snyder's Zen Count", true, true, {2, 0, 0, 52}},
       {34, "Marshall's Womans Count", false, false, {1, 0, 0, 52}},
       {35, "Omega II", true, true, {2, 0, 0, 52}},
-      {36, "Alan Wilson's Point Count", false, false, {1, 0, 0, 52}},
+      {36, "Alan Wilson's Point Count", false, true, {4, 0, 0, 0}},
       {37, "Aguilar's Ace-Six", true, false, {1, 0, 0, 52}},
       {38, "Core-Ratio Count!", false, false, {1, 0, 0, 52}},
   };

@@ -44,17 +44,35 @@ TEST_F(DefaultListsTest, CountStrategyListShowsThem) {
   list.CountStrategy(CountStrategyPossibilities::KelvoAPC);
   EXPECT_EQ(list.Children.StrategyListBox.Text(), "Kelvo' APC");
   EXPECT_TRUE(list.IsFilled()) << "a description has too much or too little behind its four numbers";
-  EXPECT_EQ(RowsOf(list.Children.StrategyListBox),
-            (std::vector<std::string>{"USTON Simple +/-",   "USTON Advanced +/-", "USTON Advanced Point Count",
-                                      "USTON \"SS\"",       "Kelvo' A - 5 Count", "Kelvo' APC",
-                                      "Not Present",        "Not Present",        "Not Present",
-                                      "Not Present",        "HI-Opt I",           "HI-Opt II",
-                                      "Revere +/-",         "Revere PC",          "Revere APC",
-                                      "Not Present",        "Not Present",        "Not Present",
-                                      "Ultimate Count",     "Canfield Expert",    "Canfield Master",
-                                      "Snyder's Red-Seven", "Snyder's Zen Count", "Not Present",
-                                      "Omega II",           "Not Present",        "Not Present",
-                                      "Not Present"}));
+  const std::vector<std::string> rows = {"USTON Simple +/-",
+                                         "USTON Advanced +/-",
+                                         "USTON Advanced Point Count",
+                                         "USTON \"SS\"",
+                                         "Kelvo' A - 5 Count",
+                                         "Kelvo' APC",
+                                         "Not Present",
+                                         "Not Present",
+                                         "Not Present",
+                                         "Not Present",
+                                         "HI-Opt I",
+                                         "HI-Opt II",
+                                         "Revere +/-",
+                                         "Revere PC",
+                                         "Revere APC",
+                                         "Not Present",
+                                         "Not Present",
+                                         "Not Present",
+                                         "Ultimate Count",
+                                         "Canfield Expert",
+                                         "Canfield Master",
+                                         "Snyder's Red-Seven",
+                                         "Snyder's Zen Count",
+                                         "Not Present",
+                                         "Omega II",
+                                         "Alan Wilson's Point Count",
+                                         "Not Present",
+                                         "Not Present"};
+  EXPECT_EQ(RowsOf(list.Children.StrategyListBox), rows);
 }
 
 TEST_F(DefaultListsTest, CountStrategyListReadsTheSettings) {

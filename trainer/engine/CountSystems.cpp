@@ -56,6 +56,8 @@ constexpr CountSystem Systems[] = {
      "Snyder, Blackbelt in Blackjack, 1983"},
     {35, "Omega II",                     Points({ 0,  1,  1,  2,  2,  2,  1,  0, -1, -2}), All, 0, Deck,
      "Carlson, Blackjack for Blood, 1992"},
+    {36, "Alan Wilson's Point Count",    Points({-4,  1,  1,  1,  1,  1,  1,  1,  1, -1}), All, 0, None,
+     "Wilson, The Casino Gambler's Guide, 1965"},
 };
 // clang-format on
 

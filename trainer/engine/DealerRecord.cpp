@@ -4,15 +4,16 @@
 
 namespace trainer::engine {
 
-void DealerRecord::Add(const Hand& hand) {
+void DealerRecord::Add(const Hand& hand, DealersTurn turn) {
   const auto cards = hand.Cards();
   if (cards.size() < 2) throw std::invalid_argument("a dealer's hand has two cards");
   const Hand firstTwo({cards[0], cards[1]});
   if (firstTwo.IsStiff()) ++stiff_;
   if (firstTwo.Total() >= 17) ++strong_;
+  if (turn == DealersTurn::NotNeeded) return;
   if (hand.IsBust()) {
     ++busts_;
-  } else if (hand.Total() >= 17) {
+  } else {
     ++stood_;
     totals_ += hand.Total();
   }

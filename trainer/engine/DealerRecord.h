@@ -1,22 +1,28 @@
 #pragma once
 
+#include <cstdint>
+
 #include "trainer/engine/Hand.h"
 
 namespace trainer::engine {
 
+/// Whether the dealer drew, or stood with what he had, because a player's hand was still in play.
+enum class DealersTurn : std::uint8_t { Taken, NotNeeded };
+
 /// What the dealer's hands have come to since the shuffle.
 class DealerRecord {
  public:
-  /// A hand that is open to see, at the end of its round. One that the dealer did not play out, because nothing was
-  /// left to win, counts by its first two cards only. Throws std::invalid_argument for fewer than two cards.
-  void Add(const Hand& hand);
+  /// A hand that is open to see, at the end of its round. One with which the dealer did not have his turn counts by its
+  /// first two cards only, whatever its total: else those of 17 and more would be played out too often. Throws
+  /// std::invalid_argument for fewer than two cards.
+  void Add(const Hand& hand, DealersTurn turn);
   void Forget() { *this = {}; }
 
   /// First two cards that are stiff.
   [[nodiscard]] int StiffHands() const { return stiff_; }
   /// First two cards with a total from 17 to 21.
   [[nodiscard]] int StrongHands() const { return strong_; }
-  /// Hands that came to 17 or more.
+  /// Hands with which the dealer had his turn.
   [[nodiscard]] int PlayedOut() const { return stood_ + busts_; }
   /// Percent of the hands played out that went over 21, 0 ... 100; 0 while there is none.
   [[nodiscard]] double BreakPercent() const;

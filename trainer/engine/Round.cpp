@@ -13,18 +13,6 @@ namespace {
 
 Money BlackjackPayout(Money bet, const Ratio& pays) { return bet * pays.numerator / pays.denominator; }
 
-void CheckBet(Money bet, const Ratio& pays) {
-  if (bet < 1 || bet > Round::MaximumBet) {
-    throw std::invalid_argument("a bet must be 1 to " + std::to_string(Round::MaximumBet) + ", not " +
-                                std::to_string(bet));
-  }
-  if (bet % 2 != 0) throw std::invalid_argument("a bet must be even, so that half of it can be surrendered");
-  if (bet * pays.numerator % pays.denominator != 0) {
-    throw std::invalid_argument("a bet of " + std::to_string(bet) + " can't be paid " + std::to_string(pays.numerator) +
-                                " to " + std::to_string(pays.denominator) + " exactly");
-  }
-}
-
 const char* NameOf(Decision play) {
   switch (play) {
     case Decision::Hit:
@@ -53,13 +41,25 @@ Round::Round(const Rules& rules, CardSource& cards, const std::vector<Money>& be
   if (bets.empty() || bets.size() > MaximumSeats) {
     throw std::invalid_argument("a round has 1 to 7 seats, not " + std::to_string(bets.size()));
   }
-  for (const Money bet : bets) CheckBet(bet, rules_.blackjackPays);
+  for (const Money bet : bets) CheckBet(bet, rules_);
   for (const Money bet : bets) {
     PlayerHand player;
     player.bet = bet;
     seats_.push_back({std::move(player)});
   }
   Deal();
+}
+
+void Round::CheckBet(Money bet, const Rules& rules) {
+  if (bet < 1 || bet > MaximumBet) {
+    throw std::invalid_argument("a bet must be 1 to " + std::to_string(MaximumBet) + ", not " + std::to_string(bet));
+  }
+  if (bet % 2 != 0) throw std::invalid_argument("a bet must be even, so that half of it can be surrendered");
+  const Ratio& pays = rules.blackjackPays;
+  if (bet * pays.numerator % pays.denominator != 0) {
+    throw std::invalid_argument("a bet of " + std::to_string(bet) + " can't be paid " + std::to_string(pays.numerator) +
+                                " to " + std::to_string(pays.denominator) + " exactly");
+  }
 }
 
 void Round::Deal() {
@@ -166,7 +166,8 @@ bool Round::DealerMustPlay() const {
 }
 
 void Round::Finish() {
-  if (DealerMustPlay()) {
+  dealerPlayed_ = !dealer_.IsBlackjack() && DealerMustPlay();
+  if (dealerPlayed_) {
     while (DealerDraws(dealer_, rules_)) dealer_.Add(cards_.Draw());
   }
   for (auto& hands : seats_) {

@@ -59,6 +59,9 @@ class Round {
   /// live as long as the round.
   Round(const Rules& rules, CardSource& cards, const std::vector<Money>& bets);
 
+  /// Throws std::invalid_argument for a bet that the constructor refuses; the rules are in order.
+  static void CheckBet(Money bet, const Rules& rules);
+
   [[nodiscard]] bool IsOver() const { return !active_.has_value(); }
 
   /// Throw std::logic_error when the round is over.
@@ -78,6 +81,9 @@ class Round {
   [[nodiscard]] Rank UpCard() const { return dealer_.Cards()[0].rank; }
   /// Up card first, then the hole card, which is face down until the round is over.
   [[nodiscard]] const Hand& DealerHand() const { return dealer_; }
+  /// A player's hand was still in play, so that the dealer drew, or stood with what he had. False while the round is
+  /// not over, and after a dealer's blackjack: nobody played against that.
+  [[nodiscard]] bool DealerPlayed() const { return dealerPlayed_; }
 
   /// Of the hands that have their result; 0 before the round is over.
   [[nodiscard]] Money NetOf(std::size_t seat) const;
@@ -98,6 +104,7 @@ class Round {
   std::vector<std::vector<PlayerHand>> seats_;
   Hand dealer_;
   std::optional<HandPlace> active_;
+  bool dealerPlayed_ = false;
 };
 
 }  // namespace trainer::engine

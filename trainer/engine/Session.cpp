@@ -15,22 +15,33 @@ const Rules& Checked(const Rules& rules) {
   return rules;
 }
 
+Money Checked(Money bet, const Rules& rules) {
+  Round::CheckBet(bet, rules);
+  return bet;
+}
+
 }  // namespace
 
 Session::Session(const Rules& rules, std::uint64_t seed, Money bet)
-    : rules_(Checked(rules)), bet_(bet), shoe_(rules.decks, seed), strategy_(std::make_shared<BasicStrategy>()) {}
+    : rules_(Checked(rules)),
+      bet_(Checked(bet, rules)),
+      shoe_(rules.decks, seed),
+      strategy_(std::make_shared<BasicStrategy>()) {}
 
 void Session::Deal() {
   predictions_.Forget();
   if (shoe_.NeedsShuffle()) Shuffle();
   isCounted_ = false;
+  isInRun_ = true;
   round_.emplace(rules_, shoe_, std::vector<Money>{bet_});
   CountIfOver();
 }
 
-void Session::Bet(Money bet) {
-  if (bet < 1 || bet > Round::MaximumBet || bet % 2 != 0) throw std::invalid_argument("no such bet");
-  bet_ = bet;
+void Session::Bet(Money bet) { bet_ = Checked(bet, rules_); }
+
+void Session::BeginRun() {
+  run_ = 0;
+  isInRun_ = false;
 }
 
 void Session::Shuffle() {
@@ -77,10 +88,10 @@ void Session::CountIfOver() {
   ++tally_.hands;
   const Money net = round_->Net();
   tally_.net += net;
-  dealer_.Add(round_->DealerHand());
+  dealer_.Add(round_->DealerHand(), round_->DealerPlayed() ? DealersTurn::Taken : DealersTurn::NotNeeded);
   const int step = net > 0 ? 1 : net < 0 ? -1 : 0;
   roundsAhead_ += step;
-  if (step != 0) run_ = (run_ > 0) == (step > 0) ? run_ + step : step;
+  if (step != 0 && isInRun_) run_ = (run_ > 0) == (step > 0) ? run_ + step : step;
   predictions_.Forget();
 }
 

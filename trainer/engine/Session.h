@@ -42,7 +42,8 @@ class Session {
   /// Throws std::invalid_argument for rules or a bet that Round refuses.
   Session(const Rules& rules, std::uint64_t seed, Money bet = 1000);
 
-  /// The next round; after the cut card, from a new shuffle. What is left of the last round is given up.
+  /// The next round; after the cut card, from a new shuffle. What is left of the last round is given up: it is not
+  /// counted, and its hole card is among the cards seen from then on.
   void Deal();
 
   /// False before the first deal.
@@ -81,9 +82,11 @@ class Session {
   /// Rounds since the shuffle that the player has won, less those that the dealer has.
   [[nodiscard]] int RoundsAhead() const { return roundsAhead_; }
 
-  /// How the last rounds ended for the player: 3 after three wins in a row, -2 after two losses, 0 before the first.
-  /// Pushes leave it as it is; a shuffle does, too.
+  /// How the last rounds ended for the player, each by its net money: 3 after three wins in a row, -2 after two losses,
+  /// 0 before the first. Pushes leave it as it is; a shuffle does, too.
   [[nodiscard]] int Run() const { return run_; }
+  /// Begins the run anew, at 0. A round that is being played does not count for it.
+  void BeginRun();
 
   [[nodiscard]] const Tally& CurrentTally() const { return tally_; }
   [[nodiscard]] const Rules& TheRules() const { return rules_; }
@@ -102,6 +105,7 @@ class Session {
   engine::Predictions predictions_;
   Tally tally_;
   int run_ = 0;
+  bool isInRun_ = true;  // the round
   DealerRecord dealer_;
   int roundsAhead_ = 0;
   bool isCounted_ = false;

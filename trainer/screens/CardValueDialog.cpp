@@ -8,19 +8,35 @@
 #include "tactix-qt/ClumpCardList.h"
 #include "tactix-qt/CountValueSelector.h"
 #include "trainer/engine/Predictions.h"
-#include "trainer/engine/Words.h"
 #include "trainer/screens/Messages.h"
 
 namespace trainer::screens {
 
 namespace {
 
-constexpr int CardKinds = 10;
+using engine::Card;
+using engine::Rank;
+using tactix::qt::CountValueSelector;
 
-engine::Card RedCardOf(int points) { return {static_cast<engine::Rank>(points), engine::Suit::Hearts}; }
+constexpr Card BlackSeven = {Rank::Seven, engine::Suit::Spades};
+
+bool HasAnAnswer(int halves) {
+  return halves >= CountValueSelector::LowestPointValue * engine::HalvesPerPoint &&
+         halves <= CountValueSelector::HighestPointValue * engine::HalvesPerPoint;
+}
+
+std::vector<Card> CardsToAskFor(const engine::CountSystem& system) {
+  std::vector<Card> cards;
+  for (int points = 1; points <= 10; ++points) {
+    const Card red{static_cast<Rank>(points), engine::Suit::Hearts};
+    if (HasAnAnswer(system.HalvesOf(red))) cards.push_back(red);
+  }
+  if (system.sevens == engine::CountedSevens::Red) cards.push_back(BlackSeven);
+  return cards;
+}
 
 /// A low card on the table leaves the shoe better for the player, a high one worse.
-int ClumpValueOf(engine::Card card) {
+int ClumpValueOf(Card card) {
   switch (engine::RangeOf(card.rank)) {
     case engine::CardRange::Low:
       return 1;
@@ -40,7 +56,8 @@ CardValueDialog::CardValueDialog(const engine::CountSystem& system, std::uint64_
     : QDialog(parent),
       system_(system),
       random_(seed),
-      points_(new tactix::qt::CountValueSelector(this)),
+      cards_(CardsToAskFor(system)),
+      points_(new CountValueSelector(this)),
       clump_(new tactix::qt::ClumpCardList(this)),
       result_(new QLabel(this)) {
   setWindowTitle(QStringLiteral("Card Values"));
@@ -61,35 +78,42 @@ CardValueDialog::CardValueDialog(const engine::CountSystem& system, std::uint64_
   next->setObjectName(QStringLiteral("NextCard"));
   column->addWidget(next);
   connect(next, &QPushButton::clicked, this, &CardValueDialog::NextCard);
-  connect(points_, &tactix::qt::CountValueSelector::CountValueSelected, this, &CardValueDialog::JudgePoints);
+  connect(points_, &CountValueSelector::CountValueSelected, this, &CardValueDialog::JudgePoints);
   connect(clump_, &tactix::qt::ClumpCardList::ClumpValueSelected, this, &CardValueDialog::JudgeClump);
   NextCard();
 }
 
 QString CardValueDialog::ResultText() const { return result_->text(); }
 
+QString CardValueDialog::CardText() const {
+  if (system_.sevens == engine::CountedSevens::All || card_.rank != Rank::Seven) return QStringLiteral("this card");
+  return card_ == BlackSeven ? QStringLiteral("a black seven") : QStringLiteral("a red seven");
+}
+
 void CardValueDialog::NextCard() {
-  card_ = 1 + static_cast<int>(random_.Below(CardKinds));
-  points_->CardValue(static_cast<tactix::qt::CountValueSelector::theCardValuePossibilities>(card_));
-  clump_->CardValue(static_cast<tactix::qt::ClumpCardList::theClumpCardValuePossibilities>(card_));
-  result_->setText(QStringLiteral("What is this card worth?"));
+  card_ = cards_[random_.Below(cards_.size())];
+  const int points = engine::PointsOf(card_.rank);
+  points_->CardValue(static_cast<CountValueSelector::theCardValuePossibilities>(points));
+  clump_->CardValue(static_cast<tactix::qt::ClumpCardList::theClumpCardValuePossibilities>(points));
+  result_->setText(QStringLiteral("What is %1 worth?").arg(CardText()));
 }
 
 void CardValueDialog::JudgePoints(int points) {
-  const int halves = system_.HalvesOf(RedCardOf(card_));
+  const int halves = system_.HalvesOf(card_);
   const double worth = static_cast<double>(halves) / engine::HalvesPerPoint;
   // The list has whole points: either neighbour of half a point will do.
   const int off = halves - points * engine::HalvesPerPoint;
   const bool right = off > -engine::HalvesPerPoint && off < engine::HalvesPerPoint;
-  result_->setText(right ? QStringLiteral("Right: the count is %1.").arg(Signed(worth))
-                         : QStringLiteral("No: the count is %1, not %2.").arg(Signed(worth), Signed(points)));
+  const QString what = QStringLiteral("the count of %1 is %2").arg(CardText(), Signed(worth));
+  result_->setText(right ? QStringLiteral("Right: %1.").arg(what)
+                         : QStringLiteral("No: %1, not %2.").arg(what, Signed(points)));
 }
 
 void CardValueDialog::JudgeClump(int value) {
-  const int worth = ClumpValueOf(RedCardOf(card_));
-  result_->setText(value == worth
-                       ? QStringLiteral("Right: the clump value is %1.").arg(Signed(worth))
-                       : QStringLiteral("No: the clump value is %1, not %2.").arg(Signed(worth), Signed(value)));
+  const int worth = ClumpValueOf(card_);
+  const QString what = QStringLiteral("the clump value of %1 is %2").arg(CardText(), Signed(worth));
+  result_->setText(value == worth ? QStringLiteral("Right: %1.").arg(what)
+                                  : QStringLiteral("No: %1, not %2.").arg(what, Signed(value)));
 }
 
 }  // namespace trainer::screens

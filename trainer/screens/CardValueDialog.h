@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <vector>
 
 #include "trainer/engine/CountSystems.h"
 #include "trainer/engine/Random.h"
@@ -23,18 +24,22 @@ class CardValueDialog : public QDialog {
   /// The system must live as long as the dialog. The same seed asks for the same cards.
   CardValueDialog(const engine::CountSystem& system, std::uint64_t seed, QWidget* parent = nullptr);
 
-  /// The points of the card asked for, 1 (ace) to 10; a seven is a red one.
-  [[nodiscard]] int Card() const { return card_; }
+  /// The card asked for, one of each kind that the system may tell from others: ace to ten, and sevens of both colours
+  /// where it tells them apart. A card whose points the list of answers does not have is not asked for.
+  [[nodiscard]] engine::Card Card() const { return card_; }
   [[nodiscard]] QString ResultText() const;
 
  private:
   void NextCard();
+  /// "a red seven", or "this card" where the digit beside the list says it all.
+  [[nodiscard]] QString CardText() const;
   void JudgePoints(int points);
   void JudgeClump(int value);
 
   const engine::CountSystem& system_;
   engine::Random random_;
-  int card_ = 0;
+  std::vector<engine::Card> cards_;
+  engine::Card card_;
   tactix::qt::CountValueSelector* points_;
   tactix::qt::ClumpCardList* clump_;
   QLabel* result_;

@@ -134,12 +134,12 @@ QString CountDrillDialog::ResultText() const { return result_->text(); }
 
 void CountDrillDialog::Start() {
   drill_.emplace(system_, decks_, length_->currentData().toInt(), seed_++);
-  answer_->CounterValue(0);
+  const int begin = drill_->RunningCount();
+  answer_->CounterValue(begin);
   answer_->setEnabled(false);
   check_->setEnabled(false);
   length_->setEnabled(false);
   start_->setText(QStringLiteral("&Deal again"));
-  const int begin = drill_->RunningCount();
   result_->setText(begin == 0 ? QStringLiteral("Count from 0.")
                               : QStringLiteral("This system begins at %1.").arg(begin));
   timer_.start(speed_->currentData().toInt());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "trainer/engine/BettingCount.h"
 #include "trainer/engine/Counter.h"
 
 namespace trainer::screens {
@@ -37,8 +38,6 @@ int TableBalance(const engine::Session& session) {
   return balance;
 }
 
-int RoundedDown(double number) { return static_cast<int>(std::floor(number)); }
-
 }  // namespace
 
 void FillStatistics(const engine::Session& session, const engine::CountSystem& system,
@@ -47,7 +46,6 @@ void FillStatistics(const engine::Session& session, const engine::CountSystem& s
   const std::vector<Card> seen = session.Seen();
   // A shoe that was burned through has no card left; it counts as its last one.
   const int left = std::max(decks * engine::CardsPerDeck - static_cast<int>(seen.size()), 1);
-  const double decksLeft = static_cast<double>(left) / engine::CardsPerDeck;
   const auto countOf = [&seen](auto isCounted) {
     return static_cast<std::int16_t>(
         std::count_if(seen.begin(), seen.end(), [&](Card card) { return isCounted(engine::PointsOf(card.rank)); }));
@@ -57,16 +55,13 @@ void FillStatistics(const engine::Session& session, const engine::CountSystem& s
   counter.See(seen);
   block.RunningCount = static_cast<std::int16_t>(counter.RunningCount());
   block.TrueCount = static_cast<std::int16_t>(counter.TrueCount(left).value_or(counter.RunningCount()));
+  block.AdjustedCount = static_cast<std::int16_t>(engine::BettingCount(system, decks, seen));
 
   block.AcesDealt = countOf([](int points) { return points == 1; });
   block.FivesDealt = countOf([](int points) { return points == 5; });
   block.TensDealt = countOf([](int points) { return points == 10; });
   block.CoreCardsDealt = countOf(IsCore);
 
-  const double acesLeft = 4.0 * decks - block.AcesDealt;
-  const double surplusAces = acesLeft - 4.0 * decksLeft;
-  const double running = static_cast<double>(counter.RunningHalves()) / engine::HalvesPerPoint;
-  block.AdjustedCount = static_cast<std::int16_t>(RoundedDown((running + surplusAces) / decksLeft));
   const double tensLeft = 16.0 * decks - block.TensDealt;
   block.TargetRating = static_cast<std::int32_t>(std::lround(100.0 * tensLeft / left));
   block.BiasRating = session.RoundsAhead();

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace trainer::screens {
@@ -36,6 +37,17 @@ StrategyBar::StrategyBar(QWidget* parent)
   // The event's number is one less than the system's.
   connect(counts_, &CountStrategyList::StrategySelectionChanged, this,
           [this](int number) { Q_EMIT CountPicked(number + 1); });
+}
+
+void StrategyBar::ShowPlaying(std::optional<int> number) {
+  const QSignalBlocker quiet(marquee_);
+  marquee_->SelectThisStrategy(number.has_value());
+  if (number) {
+    marquee_->ListIndex(*number);
+  } else {
+    // A fresh fill asks for a strategy; a row that is merely deselected leaves its text.
+    marquee_->InputPlayingStrategyDescriptions();
+  }
 }
 
 QWidget* StrategyBar::WithCaption(const QString& caption, QWidget* list) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
 #include "tactix-qt/BetStrategyList.h"
 #include "tactix-qt/CountStrategyList.h"
@@ -22,6 +23,9 @@ class StrategyBar : public QWidget {
   tactix::qt::BetStrategyList& Betting() { return *betting_; }
   tactix::qt::CountStrategyList& Counts() { return *counts_; }
   tactix::qt::UnitSelectionList& Units() { return *units_; }
+
+  /// Has the marquee show and mark the strategy in use; without one, neither a row nor the mark. Reports nothing.
+  void ShowPlaying(std::optional<int> number);
 
  Q_SIGNALS:
   void PlayingPicked(int number);

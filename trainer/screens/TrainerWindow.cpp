@@ -10,6 +10,7 @@
 
 #include "tactix/companion/Companion.h"
 #include "tactix/strategy/StrategyListData.h"
+#include "trainer/engine/BettingCount.h"
 #include "trainer/engine/Words.h"
 #include "trainer/screens/CardValueDialog.h"
 #include "trainer/screens/CountDrillDialog.h"
@@ -17,8 +18,8 @@
 #include "trainer/screens/Messages.h"
 #include "trainer/screens/ScoreBar.h"
 #include "trainer/screens/Scoreboard.h"
-#include "trainer/screens/StatisticsBlock.h"
 #include "trainer/screens/StrategyBar.h"
+#include "trainer/screens/TableDescription.h"
 #include "trainer/screens/TableOf.h"
 #include "trainer/screens/TableStrategy.h"
 #include "trainer/screens/TableView.h"
@@ -296,12 +297,14 @@ void TrainerWindow::FollowStrategy(int number) {
   const auto strategy = static_cast<std::int16_t>(number);
   const tactix::companion::PlayingTable* const table = catalogue_->TableOf(strategy);
   if (!table) {
+    strategies_->ShowPlaying(followed_);
     if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("No such strategy; the advice stays as it was.")));
     return;
   }
   const std::string caption(catalogue_->CaptionOf(strategy));
   strategy_ = ToQt(caption);
-  strategies_->Marquee().SelectThisStrategy(true);
+  followed_ = number;
+  strategies_->ShowPlaying(followed_);
   session_.Follow(std::make_shared<TableStrategy>(caption, *table));
   box_->NameStrategy(strategy_);
   if (session_.HasRound()) ShowTable(ThenGoOn(QStringLiteral("The advice now follows %1.").arg(strategy_)));
@@ -310,6 +313,8 @@ void TrainerWindow::FollowStrategy(int number) {
 
 void TrainerWindow::BetBy(int number) {
   plan_ = catalogue_->BettingPlanOf(static_cast<std::int16_t>(number));
+  // A progression begins at its first bet, whatever was won before.
+  session_.BeginRun();
   const QString caption = ToQt(catalogue_->BettingCaptionOf(static_cast<std::int16_t>(number)));
   if (!session_.HasRound()) return;
   ShowTable(ThenGoOn(plan_ ? QStringLiteral("The next bet is sized by %1.").arg(caption)
@@ -324,10 +329,11 @@ void TrainerWindow::BetUnits(int units) {
 void TrainerWindow::SizeTheBet() {
   int units = 1;
   if (plan_) {
-    tactix::companion::StrategyDataBlock shoe;
-    FillStatistics(session_, *countSystem_, shoe);
     // A shoe that is about to be shuffled has no count.
-    units = plan_->UnitsFor(session_.TheShoe().NeedsShuffle() ? 0 : shoe.TrueCount, session_.Run());
+    const int count = session_.TheShoe().NeedsShuffle()
+                          ? 0
+                          : engine::BettingCount(*countSystem_, session_.TheRules().decks, session_.Seen());
+    units = plan_->UnitsFor(count, session_.Run());
   }
   session_.Bet(units * units_ * BetUnit);
 }
@@ -342,7 +348,7 @@ void TrainerWindow::CountBy(int number) {
 void TrainerWindow::Burn() {
   if (!session_.HasRound()) return;
   const engine::Card burned = session_.Burn();
-  ShowTable(ThenGoOn(QStringLiteral("Burned: %1.").arg(ToQt(engine::WordFor(burned.rank)))));
+  ShowTable(ThenGoOn(QStringLiteral("Burned: %1.").arg(CardInWords(burned))));
 }
 
 void TrainerWindow::CopyHand() {

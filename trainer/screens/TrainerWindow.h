@@ -91,7 +91,8 @@ class TrainerWindow : public QMainWindow {
   engine::Session session_;
   std::shared_ptr<const tactix::companion::IniStrategyCatalogue> catalogue_;
   tactix::DecisionBlock block_;
-  QString strategy_;  // that the player has picked
+  std::optional<int> followed_;  // the strategy that the player has picked
+  QString strategy_;             // its caption
   QElapsedTimer sinceHandWasShown_;
   TableView* table_;
   ScoreBar* score_;

@@ -21,7 +21,7 @@ TEST(CountSystemsTest, HasTheSystemsWhosePointsAreKnown) {
   };
   const Row rows[] = {{11, 0, 1}, {12, 0, 1}, {13, 0, 3}, {14, 4, 3}, {15, 0, 1}, {16, 0, 3},
                       {21, 0, 1}, {22, 0, 2}, {23, 0, 1}, {24, 0, 2}, {25, 0, 4}, {29, 0, 11},
-                      {30, 0, 1}, {31, 0, 2}, {32, 2, 1}, {33, 0, 2}, {35, 0, 2}};
+                      {30, 0, 1}, {31, 0, 2}, {32, 2, 1}, {33, 0, 2}, {35, 0, 2}, {36, 0, 4}};
   ASSERT_EQ(CountSystems().size(), std::size(rows));
   for (std::size_t i = 0; i < std::size(rows); ++i) {
     const CountSystem& system = CountSystems()[i];

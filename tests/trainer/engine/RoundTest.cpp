@@ -85,6 +85,41 @@ TEST(RoundTest, PaysEveryOutcome) {
   }
 }
 
+TEST(RoundTest, TheDealerHasHisTurnWhileAPlayersHandIsInPlay) {
+  constexpr Decision P = Decision::Split;
+  struct Row {
+    const char* name;
+    const char* cards;
+    std::vector<Decision> plays;
+    bool played;
+  };
+  const Row rows[] = {
+      {"stands with what he has", "T T T 9", {S}, true},
+      {"draws", "T 6 3 T 9", {S}, true},
+      {"draws and busts against a doubled hand", "6 6 5 T 8 9", {D}, true},
+      {"17 against a hand that went over", "T T 6 7 T", {H}, false},
+      {"stiff against a hand that went over", "T 6 6 T T", {H}, false},
+      {"17 against a surrendered hand", "T T 6 7", {R}, false},
+      {"19 against a blackjack", "A T K 9", {}, false},
+      {"his own blackjack", "T A T K", {}, false},
+      {"both have blackjack", "A A K K", {}, false},
+      {"one split hand went over, one did not", "8 T 8 7  6 T  T", {P, H, S}, true},
+      {"both split hands went over", "8 T 8 7  6 T  6 T", {P, H, H}, false},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    ScriptedCards cards(row.cards);
+    Round round({}, cards, {100});
+    for (const Decision play : row.plays) {
+      EXPECT_FALSE(round.DealerPlayed());
+      round.Play(play);
+    }
+    ASSERT_TRUE(round.IsOver());
+    EXPECT_EQ(round.DealerPlayed(), row.played);
+    EXPECT_EQ(cards.Remaining(), 0U);
+  }
+}
+
 TEST(RoundTest, DealsInCasinoOrder) {
   ScriptedCards cards("2 3 4 5 6 7 8 9");
   const Round round({}, cards, {100, 200, 300});

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace trainer::engine {
 namespace {
@@ -13,6 +16,15 @@ namespace {
 void DealToADecision(Session& session) {
   do session.Deal();
   while (session.IsOver());
+}
+
+/// Nobody has won or lost it yet when the dealer's turn comes.
+bool IsInPlay(const Round& round) {
+  if (round.DealerHand().IsBlackjack()) return false;
+  const auto hands = round.HandsOf(0);
+  return std::any_of(hands.begin(), hands.end(), [](const PlayerHand& player) {
+    return !player.hand.IsBust() && !player.hand.IsSurrendered() && !player.hand.IsBlackjack();
+  });
 }
 
 Decision AnotherLegalPlay(const Session& session) {
@@ -178,6 +190,7 @@ TEST(SessionTest, KeepsTheDealersRecordUntilTheShuffle) {
   DealerRecord expected;
   int ahead = 0;
   int shuffles = 0;
+  int notPlayedOut = 0;
   for (int i = 0; i < 60; ++i) {
     const bool shufflesNow = session.TheShoe().NeedsShuffle();
     session.Deal();
@@ -188,9 +201,11 @@ TEST(SessionTest, KeepsTheDealersRecordUntilTheShuffle) {
     }
     while (!session.IsOver()) {
       ASSERT_EQ(session.RoundsAhead(), ahead) << "not before the round is over";
-      session.Decide(Decision::Stand);
+      session.Decide(i % 3 == 0 ? Decision::Hit : Decision::Stand);
     }
-    expected.Add(session.CurrentRound().DealerHand());
+    const bool inPlay = IsInPlay(session.CurrentRound());
+    if (!inPlay && session.CurrentRound().DealerHand().Total() >= 17) ++notPlayedOut;
+    expected.Add(session.CurrentRound().DealerHand(), inPlay ? DealersTurn::Taken : DealersTurn::NotNeeded);
     const Money net = session.CurrentRound().Net();
     ahead += net > 0 ? 1 : net < 0 ? -1 : 0;
     ASSERT_EQ(session.RoundsAhead(), ahead);
@@ -199,6 +214,7 @@ TEST(SessionTest, KeepsTheDealersRecordUntilTheShuffle) {
     ASSERT_DOUBLE_EQ(session.TheDealer().EndingTotal(), expected.EndingTotal());
   }
   EXPECT_GT(shuffles, 3);
+  EXPECT_GT(notPlayedOut, 3);
 }
 
 TEST(SessionTest, KeepsTheRunOfWinsAndLosses) {
@@ -218,6 +234,110 @@ TEST(SessionTest, KeepsTheRunOfWinsAndLosses) {
   EXPECT_GT(longest, 2);
 }
 
+/// The last round, played to its end; whether it went as a row wants it.
+using Course = std::function<bool(Session&)>;
+
+bool EndsWith(Session& session, std::vector<Decision> plays, const std::vector<Outcome>& outcomes) {
+  for (const Decision play : plays) {
+    if (session.IsOver() || !session.CurrentRound().Legal().Allows(play)) return false;
+    session.Decide(play);
+  }
+  if (!session.IsOver()) return false;
+  std::vector<Outcome> ended;
+  for (const PlayerHand& hand : session.CurrentRound().HandsOf(0)) ended.push_back(hand.result->outcome);
+  return ended == outcomes;
+}
+
+/// A session whose first round was won or lost by standing, and whose second has gone as wanted.
+Session SessionAfter(Outcome first, const Course& second) {
+  for (std::uint64_t seed = 1; seed < 100000; ++seed) {
+    Session session(Rules{}, seed);
+    session.Deal();
+    if (!EndsWith(session, {Decision::Stand}, {first})) continue;
+    session.Deal();
+    if (second(session)) return session;
+  }
+  throw std::logic_error("no seed deals such rounds");
+}
+
+TEST(SessionTest, ARoundIsWonOrLostByItsMoney) {
+  constexpr Decision H = Decision::Hit;
+  constexpr Decision S = Decision::Stand;
+  constexpr Decision P = Decision::Split;
+  constexpr Decision D = Decision::Double;
+  constexpr Decision R = Decision::Surrender;
+  struct Row {
+    const char* name;
+    std::vector<Decision> plays;
+    std::vector<Outcome> outcomes;
+    int afterAWin;
+    int afterALoss;
+  };
+  const Row rows[] = {
+      {"a win", {S}, {Outcome::Win}, 2, 1},
+      {"a loss", {S}, {Outcome::Lose}, -1, -2},
+      {"a push", {S}, {Outcome::Push}, 1, -1},
+      {"bust", {H}, {Outcome::Bust}, -1, -2},
+      {"a blackjack is one win", {}, {Outcome::Blackjack}, 2, 1},
+      {"a doubled hand is one win", {D}, {Outcome::Win}, 2, 1},
+      {"a doubled hand is one loss", {D}, {Outcome::Lose}, -1, -2},
+      {"a surrender is a loss", {R}, {Outcome::Surrendered}, -1, -2},
+      {"a split won and lost is a push", {P, S, S}, {Outcome::Win, Outcome::Lose}, 1, -1},
+      {"a split won twice is one win", {P, S, S}, {Outcome::Win, Outcome::Win}, 2, 1},
+      {"a split lost and pushed is a loss", {P, S, S}, {Outcome::Lose, Outcome::Push}, -1, -2},
+      {"a split doubled and won, and lost, is a win", {P, D, S}, {Outcome::Win, Outcome::Lose}, 2, 1},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    const Course course = [&row](Session& session) { return EndsWith(session, row.plays, row.outcomes); };
+    EXPECT_EQ(SessionAfter(Outcome::Win, course).Run(), row.afterAWin);
+    EXPECT_EQ(SessionAfter(Outcome::Lose, course).Run(), row.afterALoss);
+  }
+}
+
+TEST(SessionTest, ARunBeginsAnewWithTheNextRound) {
+  const auto win = [](Session& session) { return EndsWith(session, {Decision::Stand}, {Outcome::Win}); };
+  Session between = SessionAfter(Outcome::Win, win);
+  EXPECT_EQ(between.Run(), 2);
+  between.BeginRun();
+  EXPECT_EQ(between.Run(), 0);
+
+  Session within = SessionAfter(Outcome::Win, [&win](Session& session) {
+    session.BeginRun();
+    if (session.Run() != 0 || !win(session)) return false;
+    EXPECT_EQ(session.Run(), 0) << "won, but played before the run began";
+    session.Deal();
+    return win(session);
+  });
+  EXPECT_EQ(within.Run(), 1);
+}
+
+std::string NamesOf(const std::vector<Card>& cards) {
+  std::string names;
+  for (const Card card : cards) names += (names.empty() ? "" : " ") + NameOf(card);
+  return names;
+}
+
+/// As they come with this seed: Ah 2d 7s (7d) 4s 9s, 9d Js 3h (5h) 6d Kd, 3s Kh 8h (6c), hole cards in brackets. A
+/// burned card goes before the round's.
+TEST(SessionTest, AllHasBeenSeenButTheHoleCard) {
+  Session session(Rules{.decks = 1}, 6);
+  EXPECT_EQ(NamesOf(session.Seen()), "");
+  session.Deal();
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s");
+  session.Decide(Decision::Stand);
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s 7d 4s 9s");
+  session.Deal();
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s 7d 4s 9s 9d Js 3h");
+  session.Decide(Decision::Hit);
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s 7d 4s 9s 9d Js 3h 6d");
+  session.Burn();
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s 7d 4s 9s Kd 9d Js 3h 6d");
+  ASSERT_FALSE(session.IsOver());
+  session.Deal();
+  EXPECT_EQ(NamesOf(session.Seen()), "Ah 2d 7s 7d 4s 9s Kd 9d Js 3h 5h 6d 3s Kh 8h") << "5h: the round was given up";
+}
+
 TEST(SessionTest, ABetHoldsFromTheNextRound) {
   Session session(Rules{}, 6);
   EXPECT_EQ(session.CurrentBet(), 1000);
@@ -226,10 +346,41 @@ TEST(SessionTest, ABetHoldsFromTheNextRound) {
   EXPECT_EQ(session.CurrentRound().ActiveHand().bet, 1000);
   DealToADecision(session);
   EXPECT_EQ(session.CurrentRound().ActiveHand().bet, 4000);
-  for (const Money bet : {Money{0}, Money{-2}, Money{3}, Round::MaximumBet + 2}) {
-    EXPECT_THROW(session.Bet(bet), std::invalid_argument) << bet;
+}
+
+TEST(SessionTest, RefusesTheBetsThatARoundRefuses) {
+  constexpr Rules SixToFive = {.blackjackPays = {6, 5}};
+  struct Row {
+    const char* name;
+    Rules rules;
+    Money bet;
+    bool isTaken;
+  };
+  const Row rows[] = {
+      {"the least", {}, 2, true},
+      {"the highest", {}, Round::MaximumBet, true},
+      {"none", {}, 0, false},
+      {"negative", {}, -2, false},
+      {"odd", {}, 3, false},
+      {"too high", {}, Round::MaximumBet + 2, false},
+      {"paid exactly", SixToFive, 10, true},
+      {"a blackjack could not be paid", SixToFive, 12, false},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    Session session(row.rules, 6);
+    DealToADecision(session);
+    if (row.isTaken) {
+      EXPECT_NO_THROW(Session(row.rules, 6, row.bet).Deal());
+      session.Bet(row.bet);
+      EXPECT_EQ(session.CurrentBet(), row.bet);
+      EXPECT_NO_THROW(session.Deal());
+    } else {
+      EXPECT_THROW(Session(row.rules, 6, row.bet), std::invalid_argument);
+      EXPECT_THROW(session.Bet(row.bet), std::invalid_argument);
+      EXPECT_EQ(session.CurrentBet(), 1000);
+    }
   }
-  EXPECT_EQ(session.CurrentBet(), 4000);
 }
 
 TEST(SessionTest, TheHoleCardIsNotSeenForTheTensRatio) {

@@ -17,7 +17,11 @@ class CountDrillDialogTest : public testing::Test {
  protected:
   CountDrillDialogTest() {
     tactix::companion::Install();
-    dialog_ = std::make_unique<CountDrillDialog>(*engine::FindCountSystem(21), 6, 5);
+    Open(21, 6);
+  }
+
+  void Open(int system, int decks) {
+    dialog_ = std::make_unique<CountDrillDialog>(*engine::FindCountSystem(system), decks, 5);
     dialog_->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
   }
@@ -95,6 +99,21 @@ TEST_F(CountDrillDialogTest, TheAnswerIsSpunByKey) {
   EXPECT_EQ(Answer().CounterValue(), -2);
   QTest::keyClick(dialog_->focusWidget(), Qt::Key_Up);
   EXPECT_EQ(Answer().CounterValue(), -1);
+}
+
+TEST_F(CountDrillDialogTest, TheAnswerStandsWhereTheSystemStarts) {
+  struct Row {
+    const char* name;
+    int system;
+    int decks;
+    int start;
+  };
+  for (const Row& row : {Row{"USTON SS", 14, 8, -32}, {"Red-Seven", 32, 6, -12}, {"HI-Opt I", 21, 6, 0}}) {
+    SCOPED_TRACE(row.name);
+    Open(row.system, row.decks);
+    Click("DrillStart");
+    EXPECT_EQ(Answer().CounterValue(), row.start);
+  }
 }
 
 TEST_F(CountDrillDialogTest, EachDrillHasItsOwnCards) {

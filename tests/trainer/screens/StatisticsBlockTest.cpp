@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "tests/trainer/screens/Sessions.h"
+#include "trainer/engine/BettingCount.h"
 
 namespace trainer::screens {
 namespace {
@@ -72,7 +73,12 @@ TEST(StatisticsBlockTest, CountsWhatThePlayerHasSeen) {
     EXPECT_EQ(block.TensDealt, tens);
     EXPECT_EQ(block.CoreCardsDealt, core);
     EXPECT_EQ(block.TargetRating, std::lround(100 * (16 - tens) / left));
-    EXPECT_EQ(block.AdjustedCount, std::floor((running + (4 - aces) - left / 13) / (left / 52)));
+    // Aces as tens: a deck has -4 points then, of which each is worth 389/725 percent.
+    const double surplus = running - aces + 4 * (52 - left) / 52;
+    EXPECT_EQ(block.AdjustedCount, std::floor(surplus * 389 / 725 / (left / 52) / 0.5));
+    for (const int system : {13, 29, 32}) {
+      EXPECT_EQ(Filled(session, system).AdjustedCount, engine::BettingCount(SystemOf(system), 1, session.Seen()));
+    }
     EXPECT_EQ(block.BiasRating, session.RoundsAhead());
     EXPECT_FLOAT_EQ(block.DealerStiffHands, static_cast<float>(session.TheDealer().StiffHands()));
     EXPECT_FLOAT_EQ(block.DealerStrongHands, static_cast<float>(session.TheDealer().StrongHands()));
@@ -86,6 +92,7 @@ TEST(StatisticsBlockTest, ASystemWithoutATrueCountShowsItsRunningCount) {
   const StrategyDataBlock block = Filled(engine::Session({}, 1), RedSeven);
   EXPECT_EQ(block.RunningCount, -12);
   EXPECT_EQ(block.TrueCount, -12);
+  EXPECT_EQ(block.AdjustedCount, 0) << "the start is no disadvantage";
 }
 
 TEST(StatisticsBlockTest, AShoeThatWasBurnedThroughDividesByNothing) {

@@ -1,6 +1,9 @@
+#include <QAbstractItemView>
+#include <QSignalSpy>
 #include <set>
 
 #include "tests/trainer/screens/TrainerAtWork.h"
+#include "trainer/engine/BettingCount.h"
 #include "trainer/engine/Counter.h"
 #include "trainer/screens/Scoreboard.h"
 #include "trainer/screens/StrategyBar.h"
@@ -21,6 +24,21 @@ class TrainerStrategiesTest : public TrainerAtWork {
   }
   std::string RunningCount() {
     return window_->Board().Counts().control().Children.RunningCountDisplay.Children.labelCountValue.Caption();
+  }
+  std::string TrueCount() {
+    return window_->Board().Counts().control().Children.TrueCountDisplay.Children.labelCountValue.Caption();
+  }
+  std::string AdjustedCount() { return window_->Board().Statistics().control().Children.datAdjustedCount.Caption(); }
+  /// That of the next bet.
+  int BettingCountBy(int number) {
+    if (Session().TheShoe().NeedsShuffle()) return 0;
+    return engine::BettingCount(*engine::FindCountSystem(number), Session().TheRules().decks, Session().Seen());
+  }
+  int Units() { return static_cast<int>(Session().CurrentBet() / 1000); }
+  std::string Shown() { return BoxOf(Bar().Marquee()).currentText().toStdString(); }
+  bool IsMarked() { return Bar().Marquee().control().Children.optStrategySelected.Value(); }
+  void OpenOneDeck() {
+    Open(SeedWhere([](engine::Session& session) { return IsStiff(session); }, {.decks = 1}), {.decks = 1});
   }
   std::string CountBy(int number) {
     engine::Counter counter(*engine::FindCountSystem(number), Session().TheRules().decks);
@@ -90,26 +108,49 @@ TEST_F(TrainerStrategiesTest, TheUnitsMultiplyTheBet) {
   EXPECT_EQ(Session().CurrentBet(), 5000);
 }
 
-TEST_F(TrainerStrategiesTest, ASpreadFollowsTheTrueCount) {
-  Open(SeedWhere([](engine::Session& session) { return IsStiff(session); }, {.decks = 1}), {.decks = 1});
-  Pick(Bar().Betting(), QStringLiteral("1-4 Spread"));
-  const auto* const plan = catalogue_->BettingPlanOf(2);
-  ASSERT_TRUE(plan);
-  std::set<int> sizes;
-  for (int round = 0; round < 60; ++round) {
-    StandToTheEnd();
-    int trueCount = 0;
-    if (!Session().TheShoe().NeedsShuffle()) {
-      engine::Counter counter(*engine::FindCountSystem(21), 1);
-      counter.See(Session().Seen());
-      trueCount = counter.TrueCount(52 - static_cast<int>(Session().Seen().size())).value();
+TEST_F(TrainerStrategiesTest, ASpreadFollowsTheCountOfTheSystem) {
+  struct Row {
+    const char* caption;
+    int number;
+  };
+  constexpr int FirstSystem = 21;
+  for (const Row& row :
+       {Row{"HI-Opt I", FirstSystem}, {"USTON Advanced Point Count", 13}, {"Snyder's Red-Seven", 32}}) {
+    SCOPED_TRACE(row.caption);
+    OpenOneDeck();
+    Pick(Bar().Counts(), QLatin1String(row.caption));
+    Pick(Bar().Betting(), QStringLiteral("1-12 Spread"));
+    const auto* const plan = catalogue_->BettingPlanOf(4);
+    ASSERT_TRUE(plan);
+    std::set<int> sizes;
+    int differs = 0;
+    for (int round = 0; round < 60; ++round) {
+      StandToTheEnd();
+      const int units = plan->UnitsFor(BettingCountBy(row.number), 0);
+      differs += units != plan->UnitsFor(BettingCountBy(FirstSystem), 0) ? 1 : 0;
+      Press('S');
+      ASSERT_EQ(Units(), units);
+      sizes.insert(units);
     }
-    Press('S');
-    const int units = static_cast<int>(Session().CurrentBet() / 1000);
-    ASSERT_EQ(units, plan->UnitsFor(trueCount, 0)) << "at a true count of " << trueCount;
-    sizes.insert(units);
+    EXPECT_GT(sizes.size(), 2U);
+    EXPECT_EQ(differs > 0, row.number != FirstSystem) << "or the rounds do not tell the systems apart";
   }
-  EXPECT_GT(sizes.size(), 1U);
+}
+
+TEST_F(TrainerStrategiesTest, ASpreadGoesByNothingInAFreshShoe) {
+  OpenOneDeck();
+  Pick(Bar().Counts(), QStringLiteral("Snyder's Red-Seven"));
+  Pick(Bar().Betting(), QStringLiteral("1-12 Spread"));
+  int shuffles = 0;
+  for (int round = 0; round < 40; ++round) {
+    StandToTheEnd();
+    const bool shufflesNow = Session().TheShoe().NeedsShuffle();
+    Press('S');
+    if (!shufflesNow) continue;
+    ++shuffles;
+    ASSERT_EQ(Units(), 1);
+  }
+  EXPECT_GT(shuffles, 3);
 }
 
 TEST_F(TrainerStrategiesTest, AnotherCountSystemRecountsTheShoeSoFar) {
@@ -126,6 +167,123 @@ TEST_F(TrainerStrategiesTest, AnotherCountSystemRecountsTheShoeSoFar) {
   }
   Pick(Bar().Counts(), QStringLiteral("Not Present"));
   EXPECT_EQ(RunningCount(), CountBy(35)) << "refused";
+}
+
+TEST_F(TrainerStrategiesTest, ARecountChangesAllCountsAndTheNextBet) {
+  constexpr int AcesAgainstAll = 36;
+  constexpr int Uston = 13;
+  OpenOneDeck();
+  Pick(Bar().Counts(), QStringLiteral("Alan Wilson's Point Count"));
+  Pick(Bar().Betting(), QStringLiteral("1-12 Spread"));
+  const auto* const plan = catalogue_->BettingPlanOf(4);
+  const auto unitsBy = [&](int system) { return plan->UnitsFor(BettingCountBy(system), 0); };
+  StandToTheEnd();
+  for (int round = 0; round < 200 && unitsBy(Uston) == unitsBy(AcesAgainstAll); ++round) {
+    Press('S');
+    StandToTheEnd();
+  }
+  ASSERT_NE(unitsBy(Uston), unitsBy(AcesAgainstAll));
+  const int units = unitsBy(Uston);
+  Pick(Bar().Counts(), QStringLiteral("USTON Advanced Point Count"));
+  engine::Counter counter(*engine::FindCountSystem(Uston), 1);
+  counter.See(Session().Seen());
+  EXPECT_EQ(RunningCount(), std::to_string(counter.RunningCount()));
+  EXPECT_EQ(TrueCount(), std::to_string(counter.TrueCount(52 - static_cast<int>(Session().Seen().size())).value()));
+  EXPECT_EQ(AdjustedCount(), std::to_string(BettingCountBy(Uston)));
+  Press('S');
+  EXPECT_EQ(Units(), units);
+}
+
+TEST_F(TrainerStrategiesTest, AProgressionBeginsWhereItIsPicked) {
+  for (const bool midRound : {false, true}) {
+    SCOPED_TRACE(midRound);
+    OpenAt(IsStiff);
+    StandToTheEnd();
+    while (Session().Run() < 2) {
+      Press('S');
+      StandToTheEnd();
+    }
+    if (midRound) {
+      do Press('S');
+      while (Session().IsOver());
+    }
+    Pick(Bar().Betting(), QStringLiteral("Progressive Up as You Win"));
+    StandToTheEnd();
+    int wins = 0;
+    int most = 0;
+    for (int round = 0; round < 30; ++round) {
+      Press('S');
+      ASSERT_EQ(Units(), std::min(wins + 1, 6)) << "in round " << round;
+      StandToTheEnd();
+      const engine::Money net = Session().CurrentRound().Net();
+      wins = net > 0 ? wins + 1 : net < 0 ? 0 : wins;
+      most = std::max(most, wins);
+    }
+    EXPECT_GT(most, 1);
+  }
+}
+
+TEST_F(TrainerStrategiesTest, TheMarqueeShowsTheStrategyInUse) {
+  OpenAt(IsStiff);
+  const QSignalSpy picks(&Bar(), &StrategyBar::PlayingPicked);
+  Pick(Bar().Marquee(), QStringLiteral("Empty Seat"));
+  EXPECT_EQ(Message(), "No such strategy; the advice stays as it was. Your play?");
+  EXPECT_EQ(Bar().Marquee().control().Children.StrategyListBox.Text(), "Select a Strategy");
+  EXPECT_EQ(Bar().Marquee().ListIndex(), -2) << "none";
+  EXPECT_FALSE(IsMarked());
+  EXPECT_EQ(picks.size(), 1);
+
+  ChooseFrom("cmdAdviceButton", QStringLiteral("&Select Strategy"), tactix::RightButton);
+  tactix::tests::PickByMouse(StrategyBox(), RowOf(QStringLiteral("Never Bust")));
+  EXPECT_EQ(Message(), "The advice now follows Never Bust. Your play?");
+  EXPECT_EQ(Shown(), "Never Bust");
+  EXPECT_TRUE(IsMarked());
+  EXPECT_EQ(picks.size(), 1) << "not picked again";
+
+  Pick(Bar().Marquee(), QStringLiteral("Mimic the Dealer"));
+  EXPECT_EQ(Shown(), "Mimic the Dealer");
+  EXPECT_EQ(picks.size(), 2);
+  for (const char* row : {"Empty Seat", "Not Present"}) {
+    SCOPED_TRACE(row);
+    Pick(Bar().Marquee(), QLatin1String(row));
+    EXPECT_EQ(Shown(), "Mimic the Dealer");
+    EXPECT_TRUE(IsMarked());
+  }
+  EXPECT_EQ(picks.size(), 3) << "the empty seat; what is not present is not reported";
+
+  ChooseFrom("cmdAdviceButton", QStringLiteral("&Select Strategy"), tactix::RightButton);
+  tactix::tests::PickByMouse(StrategyBox(), RowOf(QStringLiteral("Empty Seat")));
+  EXPECT_EQ(Shown(), "Mimic the Dealer");
+}
+
+TEST_F(TrainerStrategiesTest, TheListsTakeKeys) {
+  OpenAt(IsStiff);
+  QComboBox& box = BoxOf(Bar().Betting());
+  for (const auto key : {Qt::Key_Space, Qt::Key_F4}) {
+    box.setFocus();
+    QTest::keyClick(&box, key);
+    EXPECT_TRUE(box.view()->isVisible()) << key;
+    box.hidePopup();
+  }
+  QTest::keyClick(&box, Qt::Key_Down);
+  EXPECT_EQ(Message(), "The next bet is sized by 1-2 Spread. Your play?");
+  tactix::tests::Settle();
+  Press('S');
+  EXPECT_EQ(records_.size(), 1U) << "keys are plays again";
+}
+
+TEST_F(TrainerStrategiesTest, TheEmptySeatBetsOneUnit) {
+  OpenAt(IsStiff);
+  Pick(Bar().Betting(), QStringLiteral("Progressive Up as You Win"));
+  do {
+    StandToTheEnd();
+    Press('S');
+  } while (Units() == 1);
+  Pick(Bar().Betting(), QStringLiteral("Empty Seat"));
+  StandToTheEnd();
+  EXPECT_TRUE(Message().ends_with("Any play deals the next hand.")) << Message();
+  Press('S');
+  EXPECT_EQ(Units(), 1);
 }
 
 }  // namespace
