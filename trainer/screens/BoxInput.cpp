@@ -20,6 +20,8 @@ BoxInput::BoxInput(QWidget* parent) : DecisionInput(parent), box_(new tactix::qt
 
   box_->DecisionBoxType(Decision::forUseWithBlackjackTable);
   box_->AllowAdvice(Decision::LargeButton);
+  // Lower, it would lose its plays.
+  box_->setMinimumHeight(box_->sizeHint().height());
 
   const auto plays = [this](void (Decision::*signal)(), engine::Decision decision) {
     connect(box_, signal, this, [this, decision] { Q_EMIT Played(decision); });

@@ -1,5 +1,7 @@
 #include "trainer/screens/StrategyBar.h"
 
+#include <QComboBox>
+#include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -11,8 +13,8 @@ StrategyBar::StrategyBar(QWidget* parent)
     : QWidget(parent),
       marquee_(new tactix::qt::StrategyMarquix(this)),
       betting_(new tactix::qt::BetStrategyList(this)),
-      counts_(new tactix::qt::CountStrategyList(this)),
-      units_(new tactix::qt::UnitSelectionList(this)) {
+      units_(new tactix::qt::UnitSelectionList(this)),
+      counts_(new tactix::qt::CountStrategyList(this)) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   marquee_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -22,6 +24,7 @@ StrategyBar::StrategyBar(QWidget* parent)
   row->addWidget(WithCaption(QStringLiteral("Count system"), counts_), 1, Qt::AlignCenter);
 
   marquee_->Caption(QStringLiteral("Seat 1"));
+  Introduce(QStringLiteral("Strategy of seat 1"), marquee_);
   marquee_->ControlType(tactix::qt::StrategyMarquix::IsAPlayingMarquix);
   marquee_->LoadStrategiesFromIniFile();
   betting_->LoadStrategiesFromIniFile();
@@ -58,9 +61,24 @@ QWidget* StrategyBar::WithCaption(const QString& caption, QWidget* list) {
   label->setAlignment(Qt::AlignCenter);
   label->setBuddy(list);
   column->addWidget(label);
+  Introduce(caption, list);
   list->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   column->addWidget(list, 0, Qt::AlignCenter);
   return cell;
+}
+
+void StrategyBar::Introduce(const QString& name, QWidget* list) {
+  auto* const box = list->findChild<QComboBox*>();
+  box->setAccessibleName(name);
+  box->installEventFilter(this);
+}
+
+bool StrategyBar::eventFilter(QObject* object, QEvent* event) {
+  // A list that closes hands the focus back to its box for this reason.
+  if (event->type() == QEvent::FocusIn && static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason) {
+    Q_EMIT Closed();
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 }  // namespace trainer::screens

@@ -32,14 +32,22 @@ class StrategyBar : public QWidget {
   void BettingPicked(int number);
   void CountPicked(int number);
   void UnitsPicked(int units);
+  /// An open list has closed, whether something was picked or not.
+  void Closed();
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   QWidget* WithCaption(const QString& caption, QWidget* list);
+  /// Has a screen reader call a control's box so, and Closed() heard.
+  void Introduce(const QString& name, QWidget* list);
 
+  // In the order of the Tab key.
   tactix::qt::StrategyMarquix* marquee_;
   tactix::qt::BetStrategyList* betting_;
-  tactix::qt::CountStrategyList* counts_;
   tactix::qt::UnitSelectionList* units_;
+  tactix::qt::CountStrategyList* counts_;
 };
 
 }  // namespace trainer::screens

@@ -25,7 +25,7 @@ void TableView::SetModel(TableModel model) {
 
 QSize TableView::sizeHint() const { return {900, 480}; }
 
-QSize TableView::minimumSizeHint() const { return {560, 320}; }
+QSize TableView::minimumSizeHint() const { return {560, 240}; }
 
 void TableView::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -95,12 +95,16 @@ TrainerWindow::TrainerWindow(engine::Session session, std::shared_ptr<IniStrateg
   MakeDrillMenu();
   Connect(*box_);
   Connect(*toolBar_);
-  const auto picks = [this](void (StrategyBar::*signal)(int), void (TrainerWindow::*follow)(int)) {
-    connect(strategies_, signal, this, [this, follow](int number) {
+  // The letters are plays again. Later: the list is still at work.
+  const auto goBack = [this] {
+    QMetaObject::invokeMethod(
+        this, [this] { input_->setFocus(); }, Qt::QueuedConnection);
+  };
+  connect(strategies_, &StrategyBar::Closed, this, goBack);
+  const auto picks = [this, goBack](void (StrategyBar::*signal)(int), void (TrainerWindow::*follow)(int)) {
+    connect(strategies_, signal, this, [this, follow, goBack](int number) {
       (this->*follow)(number);
-      // The letters are plays again. Later: the list is still at work.
-      QMetaObject::invokeMethod(
-          this, [this] { input_->setFocus(); }, Qt::QueuedConnection);
+      goBack();
     });
   };
   picks(&StrategyBar::PlayingPicked, &TrainerWindow::FollowStrategy);

@@ -209,9 +209,9 @@ TEST(TableViewTest, TellsAssistiveToolsWhatItShows) {
 TEST(TableViewTest, HasItsSizes) {
   TableView view;
   EXPECT_EQ(view.sizeHint(), QSize(900, 480));
-  EXPECT_EQ(view.minimumSizeHint(), QSize(560, 320));
+  EXPECT_EQ(view.minimumSizeHint(), QSize(560, 240));
   view.resize(10, 10);
-  EXPECT_EQ(view.size(), QSize(560, 320));
+  EXPECT_EQ(view.size(), QSize(560, 240));
 }
 
 TEST(TableViewTest, CoversItselfAndShowsTheCardsAtEveryScale) {

@@ -272,6 +272,46 @@ TEST_F(TrainerStrategiesTest, TheListsTakeKeys) {
   EXPECT_EQ(records_.size(), 1U) << "keys are plays again";
 }
 
+TEST_F(TrainerStrategiesTest, AListThatClosesWithoutAPickGivesTheKeysBack) {
+  OpenAt(IsStiff);
+  QComboBox& box = BoxOf(Bar().Counts());
+  const QString system = box.currentText();
+  tactix::tests::ClickAt(*window_, *tactix::tests::ReachablePlace(box));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return box.view()->isVisible(); }));
+  QTest::keyClick(box.view(), Qt::Key_Escape);
+  tactix::tests::Settle();
+  EXPECT_FALSE(box.view()->isVisible());
+  EXPECT_FALSE(box.hasFocus());
+  Press('S');
+  EXPECT_EQ(records_.size(), 1U);
+  EXPECT_EQ(box.currentText(), system);
+}
+
+TEST_F(TrainerStrategiesTest, TheListsHaveNamesAndComeInTheirOrder) {
+  OpenAt(IsStiff);
+  std::vector<std::string> names;
+  QWidget* const first = &BoxOf(Bar().Marquee());
+  QWidget* at = first;
+  do {
+    if (qobject_cast<QComboBox*>(at) && Bar().isAncestorOf(at)) names.push_back(at->accessibleName().toStdString());
+    at = at->nextInFocusChain();
+  } while (at != first);
+  EXPECT_EQ(names, (std::vector<std::string>{"Strategy of seat 1", "Betting strategy", "Bet", "Count system"}));
+}
+
+TEST_F(TrainerStrategiesTest, ThePlaysStayInSightInALowWindow) {
+  OpenAt(IsStiff);
+  window_->resize(window_->minimumSizeHint());
+  tactix::tests::Settle();
+  EXPECT_LE(window_->height(), 720) << "fits on a screen of 768 lines";
+  for (const char* name : {"HitButton", "StandButton"}) {
+    const auto* const button = window_->findChild<QWidget*>(QLatin1String(name));
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << name;
+    EXPECT_GE(button->height(), 30) << name;
+  }
+}
+
 TEST_F(TrainerStrategiesTest, TheEmptySeatBetsOneUnit) {
   OpenAt(IsStiff);
   Pick(Bar().Betting(), QStringLiteral("Progressive Up as You Win"));
