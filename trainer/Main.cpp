@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QDir>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <iostream>
@@ -17,6 +18,7 @@ namespace {
 using trainer::screens::CommandLine;
 
 constexpr int UsageExit = 2;
+constexpr QSize FrameRoom(0, 40);
 
 int Refuse(const char* reason) {
   std::cerr << "tactix-trainer: " << reason << "\nTry 'tactix-trainer --help'." << std::endl;
@@ -47,6 +49,8 @@ int Run(const CommandLine& line) {
       tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName);
   trainer::screens::TrainerWindow window(trainer::engine::Session(line.rules, line.seed), catalogue);
   if (line.demo) return trainer::screens::Demo(window, *line.demo, std::cout).Run() ? EXIT_SUCCESS : EXIT_FAILURE;
+  // A low screen has less room than the window would like, and its frame takes some.
+  window.resize(window.size().boundedTo(window.screen()->availableSize() - FrameRoom));
   window.show();
   window.Deal();
   return QApplication::exec();
