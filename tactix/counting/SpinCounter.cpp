@@ -183,9 +183,7 @@ void SpinCounter::LayOut() {
 
 void SpinCounter::Resized() {
   const Weak<SpinCounter> self(this);
-  const float width = FixedWidth / Extender().TwipsPerUnit();
-  // Asked here: a height that is no number never equals itself, and would keep the place changing.
-  if (Extender().Width() != width) Extender().Width(width);
+  Extender().Width(FixedWidth / Extender().TwipsPerUnit());
   if (!self) return;
   Children.labelCardsInStack.Height(Extender().ScaleHeight());
   Children.SpinButton.Height(Extender().ScaleHeight());

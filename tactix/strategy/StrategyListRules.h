@@ -16,7 +16,7 @@ enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
 enum class BoxSize { Width, WidthAndHeight };
 
-/// Up to where a number can be told to select its row; past it that fails with 6.
+/// In how many bits ListIndex works out the row of a number: in sixteen, 32767 overflows (6).
 enum class RowWidth { SixteenBits, ThirtyTwoBits };
 
 /// What a strategy list does differently from the others, apart from how it fills and what it reports.
