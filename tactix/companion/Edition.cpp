@@ -2,9 +2,6 @@
 
 #include <utility>
 
-#include "tactix/platform/Error.h"
-#include "tactix/platform/Variant.h"
-
 namespace tactix::companion {
 
 void Edition::WhenShown(ShowFunction show) { show_ = std::move(show); }
@@ -14,23 +11,15 @@ void Edition::Show(std::int16_t& modalFlag) {
   if (show) show(modalFlag);
 }
 
-Variant Edition::Get(std::string_view name) {
-  if (SameName(name, "thisKelvoEdition")) return thisKelvoEdition_;
-  return Object::Get(name);
+const ObjectProperties& Edition::Properties() const {
+  static const ObjectProperties table =
+      ObjectProperties().Property("thisKelvoEdition", &Edition::thisKelvoEdition, &Edition::thisKelvoEdition);
+  return table;
 }
 
-void Edition::Put(std::string_view name, const Variant& value) {
-  if (!SameName(name, "thisKelvoEdition")) return Object::Put(name, value);
-  thisKelvoEdition_ = value.ToInteger();
-}
-
-Variant Edition::Call(std::string_view name, std::span<Variant> arguments) {
-  if (!SameName(name, "Show")) return Object::Call(name, arguments);
-  if (arguments.size() != 1) throw Error(Error::InvalidProcedureCall);
-  std::int16_t modalFlag = arguments[0].ToInteger();
-  Show(modalFlag);
-  arguments[0] = modalFlag;
-  return {};
+const ObjectMethods& Edition::Methods() const {
+  static const ObjectMethods table = ObjectMethods().Method("Show", &Edition::Show);
+  return table;
 }
 
 }  // namespace tactix::companion

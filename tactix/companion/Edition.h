@@ -2,16 +2,14 @@
 
 #include <cstdint>
 #include <functional>
-#include <span>
-#include <string_view>
 
 #include "tactix/platform/Export.h"
-#include "tactix/platform/Object.h"
+#include "tactix/platform/TableObject.h"
 
 namespace tactix::companion {
 
 /// The application's edition, which decision controls ask for by name: property `thisKelvoEdition`, method `Show`.
-class TACTIX_EXPORT Edition : public Object {
+class TACTIX_EXPORT Edition : public TableObject {
  public:
   /// May change the flag, as the caller of Show sees it.
   using ShowFunction = std::function<void(std::int16_t& modalFlag)>;
@@ -28,10 +26,9 @@ class TACTIX_EXPORT Edition : public Object {
   /// Shows what the host has for it: an About box, say. The meaning of the flag is the host's.
   void Show(std::int16_t& modalFlag);
 
-  Variant Get(std::string_view name) override;
-  void Put(std::string_view name, const Variant& value) override;
-  /// `Show` takes the flag and nothing else; any other number of arguments fails with 5.
-  Variant Call(std::string_view name, std::span<Variant> arguments) override;
+ protected:
+  const ObjectProperties& Properties() const override;
+  const ObjectMethods& Methods() const override;
 
  private:
   std::int16_t thisKelvoEdition_ = 0;

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "tactix/platform/Export.h"
-#include "tactix/platform/Object.h"
+#include "tactix/platform/TableObject.h"
 
 namespace tactix::companion {
 
@@ -13,7 +13,7 @@ namespace tactix::companion {
 ///
 /// Its default property (DefaultPropertyName) stands for the whole block: assigning an object to it copies every field,
 /// or none where one is missing or does not convert.
-class TACTIX_EXPORT StrategyDataBlock final : public Object {
+class TACTIX_EXPORT StrategyDataBlock final : public TableObject {
  public:
   std::int16_t RunningCount = 0;
   std::int16_t TrueCount = 0;
@@ -32,9 +32,11 @@ class TACTIX_EXPORT StrategyDataBlock final : public Object {
   float DealerStrongHands = 0;
   float DealerEndingTotal = 0;
 
-  Variant Get(std::string_view name) override;
   /// A value that does not convert fails with its own code and leaves the old one.
   void Put(std::string_view name, const Variant& value) override;
+
+ protected:
+  const ObjectProperties& Properties() const override;
 };
 
 }  // namespace tactix::companion

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "tactix/platform/PropertyTable.h"
-#include "tactix/platform/Tolerance.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
@@ -19,6 +19,8 @@ constexpr float SizeOfTag = 8.25F;
 constexpr float SizeOfValue = 9.75F;
 
 constexpr auto White = static_cast<Color>(ShadowBoxingConstants::ShadowBoxWhiteColor);
+
+constexpr std::string_view CountBoxTypeName = "CountBoxType";
 
 struct Tag {
   TypeOfCountBox type;
@@ -54,7 +56,7 @@ CardCountDisplayBox::~CardCountDisplayBox() = default;
 void CardCountDisplayBox::CountBoxType(Coded<TypeOfCountBox> type) {
   countBoxType_ = type;
   const Weak<CardCountDisplayBox> self(this);
-  NotifyChanged("CountBoxType");
+  NotifyChanged(CountBoxTypeName);
   if (self) Repaint();
 }
 
@@ -73,14 +75,6 @@ void CardCountDisplayBox::Repaint() {
   Children.labelCountValue.BackColor(off ? White : shadowBoxStatus_.Value());
 }
 
-void CardCountDisplayBox::ReadProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { CountBoxType(bag.Read("CountBoxType", 0).ToLong()); });
-}
-
-void CardCountDisplayBox::WriteProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { bag.Write("CountBoxType", countBoxType_.Value(), 0); });
-}
-
 void CardCountDisplayBox::Resized() {
   const float width = Extender().ScaleWidth();
   const float height = Extender().ScaleHeight();
@@ -92,11 +86,14 @@ void CardCountDisplayBox::Resized() {
 const PropertyTable& CardCountDisplayBox::Properties() const {
   using Self = CardCountDisplayBox;
   static const PropertyTable table = PropertyTable()
-                                         .Property<Self>("CountBoxType", &Self::CountBoxType, &Self::CountBoxType)
-                                         .SetOnly<Self>("CountValue", &Self::CountValue)
-                                         .SetOnly<Self>("ShadowBoxStatus", &Self::ShadowBoxStatus)
-                                         .Property<Self>("BackColor", &Self::BackColor, &Self::BackColor)
-                                         .Property<Self>("ForeColor", &Self::ForeColor, &Self::ForeColor);
+                                         .Property(CountBoxTypeName, &Self::CountBoxType, &Self::CountBoxType)
+                                         .Saved(0)
+                                         .SetOnly("CountValue", &Self::CountValue)
+                                         .SetOnly("ShadowBoxStatus", &Self::ShadowBoxStatus)
+                                         .Property("BackColor", &Self::BackColor, &Self::BackColor)
+                                         .IsAColor()
+                                         .Property("ForeColor", &Self::ForeColor, &Self::ForeColor)
+                                         .IsAColor();
   return table;
 }
 

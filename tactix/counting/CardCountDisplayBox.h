@@ -33,8 +33,6 @@ class TACTIX_EXPORT CardCountDisplayBox : public Control {
   Color ForeColor() const { return Children.labelCountLabel.ForeColor(); }
   void ForeColor(Color color) { Children.labelCountLabel.ForeColor(color); }
 
-  void ReadProperties(PropertyBag& bag) override;
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
   const PropertyTable& Properties() const override;
 

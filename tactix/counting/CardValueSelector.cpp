@@ -4,8 +4,6 @@
 #include <string>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Tolerance.h"
-#include "tactix/platform/Variant.h"
 
 namespace tactix {
 
@@ -70,7 +68,7 @@ void CardValueSelector::CardNumber(std::int32_t card) {
   if (card < Ace || card > Ten) return;
   cardNumber_ = card;
   widgets_.card.Caption(card == Ace ? "A" : card == Ten ? "T" : std::to_string(card));
-  NotifyChanged("CardValue");
+  NotifyChanged(CardValueName);
 }
 
 void CardValueSelector::SelectedValue(std::int32_t value) {
@@ -96,25 +94,16 @@ void CardValueSelector::PositionTheList() {
   widgets_.list.ListIndex(selectedValue_ - FirstRowsValue);
 }
 
-void CardValueSelector::ReadProperties(PropertyBag& bag) {
-  const Weak<CardValueSelector> self(this);
-  IgnoringErrors([&] {
-    const std::int32_t value = bag.Read(variety_.valueName, 0).ToLong();
-    // A value that has no row fails with 380, also where its row's number would not fit.
-    if (value > HighestValue) throw Error(Error::InvalidPropertyValue);
-    widgets_.list.ListIndex(value - FirstRowsValue);
-  });
-  if (!self) return;
-  IgnoringErrors([&] {
-    cardNumber_ = bag.Read("CardValue", Ace).ToLong();
-    // Digits here, for the ace and the ten too.
-    widgets_.card.Caption(std::to_string(cardNumber_));
-  });
+void CardValueSelector::RestoreValue(std::int32_t value) {
+  // A value that has no row fails with 380, also where its row's number would not fit.
+  if (value > HighestValue) throw Error(Error::InvalidPropertyValue);
+  widgets_.list.ListIndex(value - FirstRowsValue);
 }
 
-void CardValueSelector::WriteProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { bag.Write(variety_.valueName, selectedValue_, 0); });
-  IgnoringErrors([&] { bag.Write("CardValue", cardNumber_, Ace); });
+void CardValueSelector::RestoreCard(std::int32_t card) {
+  cardNumber_ = card;
+  // Digits here, for the ace and the ten too.
+  widgets_.card.Caption(std::to_string(card));
 }
 
 }  // namespace tactix

@@ -26,8 +26,6 @@ class TACTIX_EXPORT CardValueSelector : public Control {
  public:
   ~CardValueSelector() override;
 
-  void ReadProperties(PropertyBag& bag) override;
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
 
   static constexpr std::int32_t LowestValue = -10;
@@ -57,6 +55,13 @@ class TACTIX_EXPORT CardValueSelector : public Control {
   /// Builds the widgets; called by the derived class's constructor.
   void Build();
 
+  static constexpr std::string_view CardValueName = "CardValue";
+  static constexpr std::int32_t DefaultCard = 1;
+  static constexpr std::int32_t DefaultValue = 0;
+  /// How the two properties come back: as they were saved, past what the setters take.
+  void RestoreValue(std::int32_t value);
+  void RestoreCard(std::int32_t card);
+
   std::int32_t CardNumber() const { return cardNumber_; }
   void CardNumber(std::int32_t card);
   std::int32_t SelectedValue() const { return selectedValue_; }
@@ -70,8 +75,8 @@ class TACTIX_EXPORT CardValueSelector : public Control {
   const Variety variety_;
   const Widgets widgets_;
   SelectedEvent& selected_;
-  std::int32_t cardNumber_ = 1;
-  std::int32_t selectedValue_ = 0;
+  std::int32_t cardNumber_ = DefaultCard;
+  std::int32_t selectedValue_ = DefaultValue;
 };
 
 }  // namespace tactix

@@ -1,12 +1,19 @@
 #include "tactix/counting/ClumpCardList.h"
 
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
+namespace {
+
+constexpr std::string_view ValueName = "ClumpValue";
+
+}  // namespace
+
 ClumpCardList::ClumpCardList(Site& site)
     : CardValueSelector(
-          site, {"ClumpValue", "panelClumpValue", "fraClumpValue", " Clump-Value", "cmbClumpValue"},
+          site, {ValueName, "panelClumpValue", "fraClumpValue", " Clump-Value", "cmbClumpValue"},
           {Children.panelClumpValue, Children.fraClumpValue, Children.cmbClumpValue, Children.lblCardValue},
           Events.ClumpValueSelected) {
   Build();
@@ -17,8 +24,10 @@ ClumpCardList::~ClumpCardList() = default;
 const PropertyTable& ClumpCardList::Properties() const {
   using Self = ClumpCardList;
   static const PropertyTable table = PropertyTable()
-                                         .Property<Self>("CardValue", &Self::CardValue, &Self::CardValue)
-                                         .Property<Self>("ClumpValue", &Self::ClumpValue, &Self::ClumpValue);
+                                         .Property(ValueName, &Self::ClumpValue, &Self::ClumpValue)
+                                         .Saved(DefaultValue, {.restore = PropertyTable::SetBy(&Self::RestoreValue)})
+                                         .Property(CardValueName, &Self::CardValue, &Self::CardValue)
+                                         .Saved(DefaultCard, {.restore = PropertyTable::SetBy(&Self::RestoreCard)});
   return table;
 }
 

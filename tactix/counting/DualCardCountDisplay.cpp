@@ -1,6 +1,7 @@
 #include "tactix/counting/DualCardCountDisplay.h"
 
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
@@ -40,9 +41,9 @@ void DualCardCountDisplay::Resized() {
 const PropertyTable& DualCardCountDisplay::Properties() const {
   using Self = DualCardCountDisplay;
   static const PropertyTable table = PropertyTable()
-                                         .SetOnly<Self>("TrueCountValue", &Self::TrueCountValue)
-                                         .SetOnly<Self>("RunningCountValue", &Self::RunningCountValue)
-                                         .SetOnly<Self>("ShadowBoxStatus", &Self::ShadowBoxStatus);
+                                         .SetOnly("TrueCountValue", &Self::TrueCountValue)
+                                         .SetOnly("RunningCountValue", &Self::RunningCountValue)
+                                         .SetOnly("ShadowBoxStatus", &Self::ShadowBoxStatus);
   return table;
 }
 

@@ -6,12 +6,19 @@
 #include "tactix/platform/NumberText.h"
 #include "tactix/platform/PropertyTable.h"
 #include "tactix/platform/Tolerance.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
 namespace {
 
 using Handedness = SpinCounterPossibilities;
+
+constexpr std::string_view CounterValueName = "CounterValue";
+constexpr std::string_view MaximumLimitName = "MaximumLimit";
+constexpr std::string_view AllowNegNumbersName = "AllowNegNumbers";
+constexpr std::string_view ControlHandednessName = "ControlHandedness";
+constexpr std::string_view FontName = "Font";
 
 constexpr std::int16_t LowestLimit = 1;
 constexpr std::int16_t HighestLimit = 999;
@@ -101,7 +108,7 @@ void SpinCounter::Refresh() {
   const std::int16_t shown = CounterValue();
   if (!self) return;
   Children.labelCardsInStack.Caption("(" + FormatNumber(std::int32_t{shown}, "000") + ")");
-  NotifyChanged("CounterValue");
+  NotifyChanged(CounterValueName);
   if (!self) return;
   std::int16_t newCounterValue = CounterValue();
   if (self) Events.CounterValueHasChanged.Raise(newCounterValue);
@@ -112,12 +119,12 @@ void SpinCounter::Refresh() {
 void SpinCounter::MaximumLimit(std::int16_t limit) {
   if (limit < LowestLimit || limit > HighestLimit) return;
   maximumLimit_ = limit;
-  NotifyChanged("MaximumLimit");
+  NotifyChanged(MaximumLimitName);
 }
 
 void SpinCounter::AllowNegNumbers(bool allow) {
   allowNegNumbers_ = allow;
-  NotifyChanged("AllowNegNumbers");
+  NotifyChanged(AllowNegNumbersName);
 }
 
 void SpinCounter::ControlHandedness(Coded<Handedness> handedness) {
@@ -127,13 +134,13 @@ void SpinCounter::ControlHandedness(Coded<Handedness> handedness) {
   }
   const Weak<SpinCounter> self(this);
   controlHandedness_ = handedness;
-  NotifyChanged("ControlHandedness");
+  NotifyChanged(ControlHandednessName);
   if (self) LayOut();
 }
 
 void SpinCounter::Font(const tactix::Font& font) {
   Children.labelCardsInStack.Font(font);
-  NotifyChanged("Font");
+  NotifyChanged(FontName);
 }
 
 void SpinCounter::UseDefaultSize(bool use) {
@@ -212,40 +219,6 @@ void SpinCounter::InitProperties() {
   IgnoringErrors([this] { defaultHeight_ = Variant(HeightInTwips()).ToInteger(); });
 }
 
-auto SpinCounter::StepByStep() const {
-  return [self = Weak<const SpinCounter>(this)](const auto& step) {
-    if (self) IgnoringErrors(step);
-  };
-}
-
-void SpinCounter::ReadProperties(PropertyBag& bag) {
-  const auto restore = StepByStep();
-  restore([&] {
-    const std::int16_t value = bag.Read("CounterValue", std::int16_t{0}).ToInteger();
-    ValueObject()->Value(value);
-  });
-  restore([&] { AllowNegNumbers(bag.Read("AllowNegNumbers", false).ToBoolean()); });
-  restore([&] { maximumLimit_ = bag.Read("MaximumLimit", HighestLimit).ToInteger(); });
-  restore([&] { HeightInTwips(bag.Read("Height", float{StandardHeight}).ToSingle()); });
-  restore([&] {
-    controlHandedness_ = bag.Read("ControlHandedness", Coded(Handedness::RighHandSpinCounter).Value()).ToLong();
-    LayOut();
-  });
-  restore([&] { Children.labelCardsInStack.Font(bag.Read("Font", ItsSite().AmbientFont()).ToFont()); });
-}
-
-void SpinCounter::WriteProperties(PropertyBag& bag) {
-  const auto save = StepByStep();
-  save([&] { bag.Write("CounterValue", CounterValue(), std::int16_t{0}); });
-  save([&] { bag.Write("AllowNegNumbers", allowNegNumbers_, false); });
-  save([&] { bag.Write("MaximumLimit", maximumLimit_, HighestLimit); });
-  save([&] { bag.Write("Height", HeightInTwips(), float{StandardHeight}); });
-  save([&] {
-    bag.Write("ControlHandedness", controlHandedness_.Value(), Coded(Handedness::RighHandSpinCounter).Value());
-  });
-  save([&] { bag.Write("Font", Font(), ItsSite().AmbientFont()); });
-}
-
 void SpinCounter::Terminated() {
   // Out of the member first: the host's value may look at the control as it ends.
   std::exchange(value_, nullptr).reset();
@@ -254,15 +227,40 @@ void SpinCounter::Terminated() {
 
 const PropertyTable& SpinCounter::Properties() const {
   using Self = SpinCounter;
+  // The number comes back as it was saved: no limit is checked, and nothing is shown or reported before it changes.
+  const auto restoreNumber = [](Self& self, std::int16_t number) {
+    const Weak<Self> still(self);
+    const std::shared_ptr<CounterValueObject> object = self.ValueObject();
+    if (still) object->Value(number);
+  };
+  const auto restoreHandedness = [](Self& self, Coded<Handedness> handedness) {
+    self.controlHandedness_ = handedness;
+    self.LayOut();
+  };
+  const auto restoreFont = [](Self& self, const tactix::Font& font) { self.Children.labelCardsInStack.Font(font); };
   static const PropertyTable table =
       PropertyTable()
-          .Property<Self>("CounterValue", &Self::CounterValue, &Self::CounterValue)
-          .Property<Self>("MaximumLimit", &Self::MaximumLimit, &Self::MaximumLimit)
-          .Property<Self>("NumberWrap", &Self::NumberWrap, &Self::NumberWrap)
-          .Property<Self>("AllowNegNumbers", &Self::AllowNegNumbers, &Self::AllowNegNumbers)
-          .Property<Self>("ControlHandedness", &Self::ControlHandedness, &Self::ControlHandedness)
-          .Property<Self>("Font", &Self::Font, &Self::Font)
-          .Property<Self>("UseDefaultSize", &Self::UseDefaultSize, &Self::UseDefaultSize);
+          .Property(CounterValueName, &Self::CounterValue, &Self::CounterValue)
+          .Saved(std::int16_t{0}, {.restore = PropertyTable::SetBy(restoreNumber)})
+          .Property(AllowNegNumbersName, &Self::AllowNegNumbers, &Self::AllowNegNumbers)
+          .Saved(false)
+          .Property(MaximumLimitName, &Self::MaximumLimit, &Self::MaximumLimit)
+          .Saved(HighestLimit, {.restore = PropertyTable::Into(&Self::maximumLimit_)})
+          .SavedBeside({.name = "Height",
+                        .defaultValue = PropertyTable::Always(float{StandardHeight}),
+                        .value = PropertyTable::GetBy([](Self& self) { return self.HeightInTwips(); }),
+                        .restore = PropertyTable::SetBy([](Self& self, float height) { self.HeightInTwips(height); })})
+          .Property(ControlHandednessName, &Self::ControlHandedness, &Self::ControlHandedness)
+          .Saved(Coded(Handedness::RighHandSpinCounter).Value(), {.restore = PropertyTable::SetBy(restoreHandedness)})
+          .Property(FontName, &Self::Font, &Self::Font)
+          .SavedWithDefault(AmbientFontOf, {.restore = PropertyTable::SetBy(restoreFont)})
+          .Property("NumberWrap", &Self::NumberWrap, &Self::NumberWrap)
+          .Property("UseDefaultSize", &Self::UseDefaultSize, &Self::UseDefaultSize);
+  return table;
+}
+
+const MethodTable& SpinCounter::Methods() const {
+  static const MethodTable table = MethodTable().Method("ResetSizeToDefault", &SpinCounter::ResetSizeToDefault);
   return table;
 }
 

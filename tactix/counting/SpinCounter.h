@@ -53,13 +53,12 @@ class TACTIX_EXPORT SpinCounter : public Control {
   void ResetSizeToDefault();
 
   void InitProperties() override;
-  /// Changes no more than what it reads: raises nothing, and announces AllowNegNumbers only.
-  void ReadProperties(PropertyBag& bag) override;
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
   void AmbientChanged() override;
   void Terminated() override;
+  /// Restoring changes no more than what is read: it raises nothing, and announces AllowNegNumbers only.
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     /// After each accepted change and each step, also one that a limit has stopped; carries the number. What the
@@ -83,8 +82,6 @@ class TACTIX_EXPORT SpinCounter : public Control {
   void StepDown();
   void Refresh();
   void LayOut();
-  /// Runs one step of saving or restoring after the other as long as the control exists, whichever of them fails.
-  auto StepByStep() const;
   void TakeAmbientColors();
   /// The control's height in twips.
   float HeightInTwips() const;

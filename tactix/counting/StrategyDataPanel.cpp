@@ -8,6 +8,7 @@
 #include "tactix/platform/Error.h"
 #include "tactix/platform/NumberText.h"
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
@@ -163,8 +164,20 @@ void StrategyDataPanel::Terminated() {
 const PropertyTable& StrategyDataPanel::Properties() const {
   using Self = StrategyDataPanel;
   static const PropertyTable table = PropertyTable()
-                                         .SetOnly<Self>("StrategyDataBlockData", &Self::StrategyDataBlockData)
-                                         .SetOnly<Self>("ShadowBoxStatus", &Self::ShadowBoxStatus);
+                                         .SetOnly("StrategyDataBlockData", &Self::StrategyDataBlockData)
+                                         .SetOnly("ShadowBoxStatus", &Self::ShadowBoxStatus);
+  return table;
+}
+
+const MethodTable& StrategyDataPanel::Methods() const {
+  using Self = StrategyDataPanel;
+  static const MethodTable table =
+      MethodTable()
+          .Method("HereIsYourStrategyData", &Self::HereIsYourStrategyData)
+          .Method("HereIsSomeStrategyDataBlockData", &Self::HereIsSomeStrategyDataBlockData)
+          .Method("GetClumpStuff", &Self::GetClumpStuff)
+          .Method("Refresh", &Self::Refresh)
+          .Method("TheKelvoEditionIs", &Self::TheKelvoEditionIs);
   return table;
 }
 

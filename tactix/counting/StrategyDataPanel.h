@@ -48,6 +48,7 @@ class TACTIX_EXPORT StrategyDataPanel : public Control {
   void Resized() override;
   void Terminated() override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     /// A mouse button was pressed anywhere on the panel.

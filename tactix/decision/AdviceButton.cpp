@@ -128,10 +128,20 @@ const PropertyTable& AdviceButton::Properties() const {
   using Self = AdviceButton;
   static const PropertyTable table =
       PropertyTable()
-          .Property<Self>("Caption", &Self::Caption, &Self::Caption)
-          .Property<Self>("DEFAULT", &Self::DEFAULT, &Self::DEFAULT)
-          .Property<Self>("Enabled", &Self::Enabled, &Self::Enabled)
-          .Property<Self>("WhichStrategyToUse", &Self::WhichStrategyToUse, &Self::WhichStrategyToUse);
+          .Property("Caption", &Self::Caption, &Self::Caption)
+          .Property("DEFAULT", &Self::DEFAULT, &Self::DEFAULT)
+          .Property("Enabled", &Self::Enabled, &Self::Enabled)
+          .Property("WhichStrategyToUse", &Self::WhichStrategyToUse, &Self::WhichStrategyToUse);
+  return table;
+}
+
+const MethodTable& AdviceButton::Methods() const {
+  using Self = AdviceButton;
+  static const MethodTable table = MethodTable()
+                                       .Method("AdviceStrategyList", &Self::AdviceStrategyList)
+                                       .Method("BlinkIfNecessary", &Self::BlinkIfNecessary)
+                                       .Method("BlinkTime", &Self::BlinkTime)
+                                       .Method("FlashObject", &Self::FlashObject);
   return table;
 }
 

@@ -52,6 +52,7 @@ class TACTIX_EXPORT AdviceButton : public Control {
   void Resized() override;
   void GotFocus() override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     Event<> Click{1, "Click"};

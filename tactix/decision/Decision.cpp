@@ -5,6 +5,7 @@
 #include "tactix/decision/DecisionPlays.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
@@ -367,15 +368,43 @@ const PropertyTable& Decision::Properties() const {
   using Self = Decision;
   static const PropertyTable table =
       PropertyTable()
-          .Property<Self>("AllowAdvice", &Self::AllowAdvice, &Self::AllowAdvice)
-          .Property<Self>("DecisionBoxType", &Self::DecisionBoxType, &Self::DecisionBoxType)
-          .GetOnly<Self>("thisKelvoEdition", &Self::thisKelvoEdition)
-          .SetOnly<Self>("GiveAdvice", &Self::GiveAdvice)
-          .Property<Self>("PromptThePlayButtons", &Self::PromptThePlayButtons, &Self::PromptThePlayButtons)
-          .GetOnly<Self>("PlayButtonPromptStatus", &Self::PlayButtonPromptStatus)
-          .Property<Self>("ToolTip", &Self::ToolTip, &Self::ToolTip)
-          .SetOnly<Self>("ToolTipMessage", &Self::ToolTipMessage)
-          .Property<Self>("Qualifier", &Self::Qualifier, &Self::Qualifier);
+          .Property("AllowAdvice", &Self::AllowAdvice, &Self::AllowAdvice)
+          .Property("DecisionBoxType", &Self::DecisionBoxType, &Self::DecisionBoxType)
+          .GetOnly("thisKelvoEdition", &Self::thisKelvoEdition)
+          .SetOnly("GiveAdvice", &Self::GiveAdvice)
+          .Property("PromptThePlayButtons", &Self::PromptThePlayButtons, &Self::PromptThePlayButtons)
+          .GetOnly("PlayButtonPromptStatus", &Self::PlayButtonPromptStatus)
+          .Property("ToolTip", &Self::ToolTip, &Self::ToolTip)
+          .SetOnly("ToolTipMessage", &Self::ToolTipMessage)
+          .Property("Qualifier", &Self::Qualifier, &Self::Qualifier);
+  return table;
+}
+
+const MethodTable& Decision::Methods() const {
+  using Self = Decision;
+  static const MethodTable table =
+      MethodTable()
+          .TakesVariant("SetupTheDecisionBox", &Self::SetupTheDecisionBox)
+          .TakesVariant("SetupDecisionBox", &Self::SetupDecisionBox)
+          .TakesVariant("SetupPlayButtons", &Self::SetupPlayButtons)
+          .TakesVariant("HereIsTheDCB", &Self::HereIsTheDCB)
+          .TakesVariant("DecodeThisDCB", &Self::DecodeThisDCB)
+          .Method("TheKelvoEditionIs", &Self::TheKelvoEditionIs)
+          .Method("CenterYourSelf", &Self::CenterYourSelf)
+          .Method("Show", &Self::Show)
+          .Method("ConvertFromPixelsToTwipsX", &Self::ConvertFromPixelsToTwipsX)
+          .Method("ConvertFromPixelsToTwipsY", &Self::ConvertFromPixelsToTwipsY)
+          .Method("ConvertFromTwipsToPixelsX", &Self::ConvertFromTwipsToPixelsX)
+          .Method("ConvertFromTwipsToPixelsY", &Self::ConvertFromTwipsToPixelsY)
+          .Method("DecisionMade", &Self::DecisionMade)
+          .Method("HandleAdviceConsiderations", &Self::HandleAdviceConsiderations)
+          .Method("FlashObject", &Self::FlashObject)
+          .Method("BlinkTime", &Self::BlinkTime)
+          .Method("DiddleThePromptShit", &Self::DiddleThePromptShit)
+          .Method("PredictTheHitCard", &Self::PredictTheHitCard)
+          .Method("DisplayHitcardSetting", &Self::DisplayHitcardSetting)
+          .Method("SetDescriptionBoxState", &Self::SetDescriptionBoxState)
+          .Method("ClearButtonDescriptionBox", &Self::ClearButtonDescriptionBox);
   return table;
 }
 

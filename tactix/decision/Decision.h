@@ -126,6 +126,7 @@ class TACTIX_EXPORT Decision : public Control {
   void ReadProperties(PropertyBag& bag) override;
   void Resized() override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     /// The advice button was clicked and the advised button has flashed.

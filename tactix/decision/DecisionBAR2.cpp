@@ -17,15 +17,15 @@ void DecisionBAR2::BuildMenu() {
     Coded<ButtonStatusPossibilities>* state;  // null for a separator
   };
   const Item items[] = {
-      {Children.menuHoleCardButtonsVisible, &holecardVisibility_},
+      {Children.menuHoleCardButtonsVisible, &VisibilityState(ButtonGroup::HoleCard)},
       {Children.menuSEP1, nullptr},
-      {Children.menuHitCardButtonsVisible, &hitcardVisibility_},
+      {Children.menuHitCardButtonsVisible, &VisibilityState(ButtonGroup::HitCard)},
       {Children.menuSEP2, nullptr},
-      {Children.menuTensRatioButtonsVisible, &tensRatioVisibility_},
+      {Children.menuTensRatioButtonsVisible, &VisibilityState(ButtonGroup::TensRatio)},
       {Children.menuSEP3, nullptr},
-      {Children.menuStrongHandButtonsVisible, &dealerStrengthVisibility_},
+      {Children.menuStrongHandButtonsVisible, &VisibilityState(ButtonGroup::DealerStrength)},
       {Children.menuSEP4, nullptr},
-      {Children.menuStatsButtonVisible, &statusVisibility_},
+      {Children.menuStatsButtonVisible, &VisibilityState(ButtonGroup::Status)},
   };
   for (const Item& item : items) {
     Children.menuDecisionBarSettings.Add(item.entry);
@@ -49,9 +49,17 @@ void DecisionBAR2::BuildMenu() {
   Children.DecisionToolBar.MousePressed.Connect(openAt(Children.DecisionToolBar));
 }
 
-void DecisionBAR2::ResetTheHitcardPredictionButtons() { Unpress(PredictionGroup::HitCard); }
+void DecisionBAR2::ResetTheHitcardPredictionButtons() { Unpress(ButtonGroup::HitCard); }
 
-void DecisionBAR2::ResetTheHoleCardPredictionButtons() { Unpress(PredictionGroup::HoleCard); }
+void DecisionBAR2::ResetTheHoleCardPredictionButtons() { Unpress(ButtonGroup::HoleCard); }
+
+const MethodTable& DecisionBAR2::Methods() const {
+  static const MethodTable table =
+      CommonMethods()
+          .Method("ResetTheHitcardPredictionButtons", &DecisionBAR2::ResetTheHitcardPredictionButtons)
+          .Method("ResetTheHoleCardPredictionButtons", &DecisionBAR2::ResetTheHoleCardPredictionButtons);
+  return table;
+}
 
 void DecisionBAR2::Terminated() {
   ReleaseTheBlock();

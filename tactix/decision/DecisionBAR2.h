@@ -18,6 +18,7 @@ class TACTIX_EXPORT DecisionBAR2 : public DecisionToolBarControl {
   void ResetTheHoleCardPredictionButtons();
 
   void Terminated() override;
+  const MethodTable& Methods() const override;
 
   struct ChildWidgets : CommonWidgets {
     using CommonWidgets::CommonWidgets;

@@ -1,12 +1,14 @@
 #include "tactix/decision/DecisionToolBar.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "tactix/decision/DecisionToolButtons.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
-#include "tactix/platform/Tolerance.h"
+#include "tactix/shared/EnumerationNames.h"
+#include "tactix/shared/ResponseBlock.h"
 
 namespace tactix {
 
@@ -21,6 +23,15 @@ constexpr float RowThickness = 900;
 constexpr float ColumnThickness = 1500;
 
 constexpr auto Bottom = static_cast<std::int32_t>(DecisionBARAlignment::DBAlignBottom);
+
+constexpr std::string_view AlignmentName = "Alignment";
+
+/// Under which names the visibilities are saved and announced, in the order of the groups. They differ from some of the
+/// members': saved forms know them.
+constexpr std::string_view VisibilityNames[] = {"HitcardButtonsVisibility", "HoleCardButtonsVisibility",
+                                                "TensRatioButtonsVisibility", "DealerStrengthButtonsVisibility",
+                                                "StatusButtonVisibility"};
+constexpr std::string_view NameOf(ButtonGroup group) { return VisibilityNames[static_cast<std::size_t>(group)]; }
 
 bool IsShown(Status status) { return status != ButtonStatusPossibilities::ButtonsAreInvisible; }
 
@@ -51,7 +62,7 @@ Coded<DecisionBARAlignment> DecisionToolBarControl::Alignment() const { return w
 void DecisionToolBarControl::Alignment(Coded<DecisionBARAlignment> alignment) {
   widgets_->DecisionToolBar.Align(alignment.Value());
   Arrange();
-  NotifyChanged("Alignment");
+  NotifyChanged(AlignmentName);
 }
 
 void DecisionToolBarControl::Arrange() {
@@ -91,57 +102,22 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
 
 // The groups.
 
-void DecisionToolBarControl::Plug(PredictionGroup group, bool shown) {
+void DecisionToolBarControl::Plug(ButtonGroup group, const Status& buttonGroupStatus) {
+  const bool shown = IsShown(buttonGroupStatus);
+  if (group == ButtonGroup::Status) Button(StatisticsKey).Visible(shown);
   for (const ToolBarPrediction& prediction : ToolBarPredictions) {
     if (prediction.group == group) Button(prediction.key).Visible(shown);
   }
 }
 
-void DecisionToolBarControl::PlugHitcardButtons(const Status& buttonGroupStatus) {
-  Plug(PredictionGroup::HitCard, IsShown(buttonGroupStatus));
-}
-void DecisionToolBarControl::PlugHoleCardButtons(const Status& buttonGroupStatus) {
-  Plug(PredictionGroup::HoleCard, IsShown(buttonGroupStatus));
-}
-void DecisionToolBarControl::PlugTensRatioButtons(const Status& buttonGroupStatus) {
-  Plug(PredictionGroup::TensRatio, IsShown(buttonGroupStatus));
-}
-void DecisionToolBarControl::PlugDealerStrengthButtons(const Status& buttonGroupStatus) {
-  Plug(PredictionGroup::DealerStrength, IsShown(buttonGroupStatus));
-}
-void DecisionToolBarControl::PlugStatusButton(const Status& buttonStatus) {
-  Button(StatisticsKey).Visible(IsShown(buttonStatus));
-}
-
-// The notices' names differ from some of the members': saved forms know them.
-void DecisionToolBarControl::HitcardButtonsVisibility(Status visibility) {
-  hitcardVisibility_ = visibility;
-  PlugHitcardButtons(visibility);
-  NotifyChanged("HitcardButtonsVisibility");
-}
-void DecisionToolBarControl::HolecardButtonsVisibility(Status visibility) {
-  holecardVisibility_ = visibility;
-  PlugHoleCardButtons(visibility);
-  NotifyChanged("HoleCardButtonsVisibility");
-}
-void DecisionToolBarControl::TensRatioButtonVisibility(Status visibility) {
-  tensRatioVisibility_ = visibility;
-  PlugTensRatioButtons(visibility);
-  NotifyChanged("TensRatioButtonsVisibility");
-}
-void DecisionToolBarControl::DealerStrengthButtonsVisibility(Status visibility) {
-  dealerStrengthVisibility_ = visibility;
-  PlugDealerStrengthButtons(visibility);
-  NotifyChanged("DealerStrengthButtonsVisibility");
-}
-void DecisionToolBarControl::StatusButtonButtonVisibility(Status visibility) {
-  statusVisibility_ = visibility;
-  PlugStatusButton(visibility);
-  NotifyChanged("StatusButtonVisibility");
+void DecisionToolBarControl::Visibility(ButtonGroup group, Status visibility) {
+  VisibilityState(group) = visibility;
+  Plug(group, visibility);
+  NotifyChanged(NameOf(group));
 }
 
 Status DecisionToolBarControl::StatusButtonButtonVisibility() {
-  DealerStrengthButtonsVisibility(dealerStrengthVisibility_);
+  DealerStrengthButtonsVisibility(DealerStrengthButtonsVisibility());
   return ButtonStatusPossibilities::ButtonsAreInvisible;
 }
 
@@ -252,32 +228,31 @@ void DecisionToolBarControl::BlinkTime(const float& timeAmount) { blinker_->Wait
 
 // The record.
 
-std::int32_t DecisionToolBarControl::RecordOf(PredictionGroup group) const {
+std::int32_t DecisionToolBarControl::RecordOf(ButtonGroup group) const {
   switch (group) {
-    case PredictionGroup::HitCard:
+    case ButtonGroup::HitCard:
       return response_.HitCardIs.Value();
-    case PredictionGroup::HoleCard:
+    case ButtonGroup::HoleCard:
       return response_.HoleCardIs.Value();
-    case PredictionGroup::TensRatio:
+    case ButtonGroup::TensRatio:
       return response_.TensRatioIs.Value();
-    case PredictionGroup::DealerStrength:
-      break;
+    default:
+      return response_.DealerHandIs.Value();
   }
-  return response_.DealerHandIs.Value();
 }
 
-void DecisionToolBarControl::Record(PredictionGroup group, std::int32_t value) {
+void DecisionToolBarControl::Record(ButtonGroup group, std::int32_t value) {
   switch (group) {
-    case PredictionGroup::HitCard:
+    case ButtonGroup::HitCard:
       response_.HitCardIs = value;
       return;
-    case PredictionGroup::HoleCard:
+    case ButtonGroup::HoleCard:
       response_.HoleCardIs = value;
       return;
-    case PredictionGroup::TensRatio:
+    case ButtonGroup::TensRatio:
       response_.TensRatioIs = value;
       return;
-    case PredictionGroup::DealerStrength:
+    default:
       response_.DealerHandIs = value;
   }
 }
@@ -306,7 +281,7 @@ void DecisionToolBarControl::UnpressAllPredictionButtons() {
   }
 }
 
-void DecisionToolBarControl::Unpress(PredictionGroup group) {
+void DecisionToolBarControl::Unpress(ButtonGroup group) {
   for (const ToolBarPrediction& prediction : ToolBarPredictions) {
     if (prediction.group == group && prediction.followsTheRecord) Button(prediction.key).Value(false);
   }
@@ -314,61 +289,74 @@ void DecisionToolBarControl::Unpress(PredictionGroup group) {
 
 // Saved properties.
 
-constexpr DecisionToolBarControl::SavedVisibility DecisionToolBarControl::SavedVisibilities[] = {
-    {"HitcardButtonsVisibility", &DecisionToolBarControl::hitcardVisibility_},
-    {"HoleCardButtonsVisibility", &DecisionToolBarControl::holecardVisibility_},
-    {"TensRatioButtonsVisibility", &DecisionToolBarControl::tensRatioVisibility_},
-    {"DealerStrengthButtonsVisibility", &DecisionToolBarControl::dealerStrengthVisibility_},
-    {"StatusButtonVisibility", &DecisionToolBarControl::statusVisibility_},
-};
-
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
-  // A bag is the host's: it may destroy the bar in the middle of reading and writing.
   const Weak<DecisionToolBarControl> self(this);
-  const auto saved = [&bag](std::string_view name, std::int32_t value) {
-    IgnoringErrors([&] { value = bag.Read(name, value).ToLong(); });
-    return value;
-  };
-  // The buttons stay as they are until the host sets a visibility.
-  for (const auto& [name, state] : SavedVisibilities) {
-    const std::int32_t visibility = saved(name, 0);
-    if (!self) return;
-    this->*state = visibility;
-  }
-  const std::int32_t alignment = saved("Alignment", Bottom);
-  if (self) Alignment(alignment);
+  Control::ReadProperties(bag);
   if (self) PlaceTheDecisionBAR();
-}
-
-void DecisionToolBarControl::WriteProperties(PropertyBag& bag) {
-  const Weak<DecisionToolBarControl> self(this);
-  // Saved as bottom whatever the docking is: saved forms rely on it.
-  bag.Write("Alignment", Bottom);
-  for (const auto& [name, state] : SavedVisibilities) {
-    if (!self) return;
-    const Status value =
-        state == &DecisionToolBarControl::statusVisibility_ ? StatusButtonButtonVisibility() : this->*state;
-    if (self) bag.Write(name, value.Value());
-  }
 }
 
 const PropertyTable& DecisionToolBarControl::Properties() const {
   using Self = DecisionToolBarControl;
+  // The buttons stay as they are until the host sets a visibility.
+  const auto into = [](ButtonGroup group) {
+    return PropertyTable::SetBy([group](Self& self, Status visibility) { self.VisibilityState(group) = visibility; });
+  };
+  const auto saved = [&into](ButtonGroup group) {
+    return SavedDifferently{.name = NameOf(group), .restore = into(group), .always = true};
+  };
   static const PropertyTable table =
       PropertyTable()
-          .Property<Self>("Alignment", &Self::Alignment, &Self::Alignment)
-          .Property<Self>("HitcardButtonsVisibility", &Self::HitcardButtonsVisibility, &Self::HitcardButtonsVisibility)
-          .Property<Self>("HolecardButtonsVisibility", &Self::HolecardButtonsVisibility,
-                          &Self::HolecardButtonsVisibility)
-          .Property<Self>("TensRatioButtonVisibility", &Self::TensRatioButtonVisibility,
-                          &Self::TensRatioButtonVisibility)
-          .Property<Self>("DealerStrengthButtonsVisibility", &Self::DealerStrengthButtonsVisibility,
-                          &Self::DealerStrengthButtonsVisibility)
-          .Property<Self>("StatusButtonButtonVisibility", &Self::StatusButtonButtonVisibility,
-                          &Self::StatusButtonButtonVisibility)
-          .GetOnly<Self>("thisKelvoEdition", &Self::thisKelvoEdition)
-          .Property<Self>("KelvoEdition", &Self::KelvoEdition, &Self::KelvoEdition)
-          .Property<Self>("ResetPredictionButtons", &Self::ResetPredictionButtons, &Self::ResetPredictionButtons);
+          .OnFailedRead(OnFailure::TakeTheDefault)
+          .OnFailedWrite(OnFailure::Report)
+          // Saved as bottom whatever the docking is, and before all others, although it is read last: saved forms rely
+          // on it.
+          .SavedBeside({.name = std::string(AlignmentName),
+                        .defaultValue = PropertyTable::Always(Bottom),
+                        .value = PropertyTable::Always(Bottom),
+                        .always = true})
+          .Property("HitcardButtonsVisibility", &Self::HitcardButtonsVisibility, &Self::HitcardButtonsVisibility)
+          .Saved(0, saved(ButtonGroup::HitCard))
+          .Property("HolecardButtonsVisibility", &Self::HolecardButtonsVisibility, &Self::HolecardButtonsVisibility)
+          .Saved(0, saved(ButtonGroup::HoleCard))
+          .Property("TensRatioButtonVisibility", &Self::TensRatioButtonVisibility, &Self::TensRatioButtonVisibility)
+          .Saved(0, saved(ButtonGroup::TensRatio))
+          .Property("DealerStrengthButtonsVisibility", &Self::DealerStrengthButtonsVisibility,
+                    &Self::DealerStrengthButtonsVisibility)
+          .Saved(0, saved(ButtonGroup::DealerStrength))
+          .Property("StatusButtonButtonVisibility", &Self::StatusButtonButtonVisibility,
+                    &Self::StatusButtonButtonVisibility)
+          .Saved(0, saved(ButtonGroup::Status))
+          .Property(AlignmentName, &Self::Alignment, &Self::Alignment)
+          .Saved(Bottom, {.ways = SavedWays::RestoredOnly})
+          .GetOnly("thisKelvoEdition", &Self::thisKelvoEdition)
+          .Property("KelvoEdition", &Self::KelvoEdition, &Self::KelvoEdition)
+          .Property("ResetPredictionButtons", &Self::ResetPredictionButtons, &Self::ResetPredictionButtons);
+  return table;
+}
+
+MethodTable DecisionToolBarControl::CommonMethods() {
+  using Self = DecisionToolBarControl;
+  return MethodTable()
+      .Method("PlugHitcardButtons", &Self::PlugHitcardButtons)
+      .Method("PlugHoleCardButtons", &Self::PlugHoleCardButtons)
+      .Method("PlugTensRatioButtons", &Self::PlugTensRatioButtons)
+      .Method("PlugDealerStrengthButtons", &Self::PlugDealerStrengthButtons)
+      .Method("PlugStatusButton", &Self::PlugStatusButton)
+      .Method("TheKelvoEditionIs", &Self::TheKelvoEditionIs)
+      .TakesVariant("SetupTheDecisionBAR", &Self::SetupTheDecisionBAR)
+      .TakesVariant("SetupDecisionBAR", &Self::SetupDecisionBAR)
+      .TakesVariant("SetupPlayButtons", &Self::SetupPlayButtons)
+      .TakesVariant("HereIsTheDCB", &Self::HereIsTheDCB)
+      .TakesVariant("DecodeThisDCB", &Self::DecodeThisDCB)
+      .Method("GetReadyForADecision", &Self::GetReadyForADecision)
+      .Method("ResetYourResponseData", &Self::ResetYourResponseData)
+      .Method("GiveMeYourResponseData", &Self::GiveMeYourResponseData)
+      .Method("FlashObject", &Self::FlashObject)
+      .Method("BlinkTime", &Self::BlinkTime);
+}
+
+const MethodTable& DecisionToolBarControl::Methods() const {
+  static const MethodTable table = CommonMethods();
   return table;
 }
 

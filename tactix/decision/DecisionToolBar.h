@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -26,7 +28,9 @@
 
 namespace tactix {
 
-enum class PredictionGroup;
+/// The groups of buttons that a host shows and hides as a whole. The status button is a group of its own, and the only
+/// one that predicts nothing.
+enum class ButtonGroup { HitCard, HoleCard, TensRatio, DealerStrength, Status };
 
 /// What the two decision toolbars have in common: a strip of play buttons and prediction groups that the host docks to
 /// an edge of its window. It reports clicks and keeps the player's predictions until the host collects them; it judges
@@ -44,23 +48,43 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void Alignment(Coded<DecisionBARAlignment> alignment);
   /// Whether a group's buttons are shown: any number but 0. 0 by default, although all buttons are designed visible: a
   /// group follows its property from the first time that it is set.
-  Coded<ButtonStatusPossibilities> HitcardButtonsVisibility() const { return hitcardVisibility_; }
-  void HitcardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
-  Coded<ButtonStatusPossibilities> HolecardButtonsVisibility() const { return holecardVisibility_; }
-  void HolecardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
-  Coded<ButtonStatusPossibilities> TensRatioButtonVisibility() const { return tensRatioVisibility_; }
-  void TensRatioButtonVisibility(Coded<ButtonStatusPossibilities> visibility);
-  Coded<ButtonStatusPossibilities> DealerStrengthButtonsVisibility() const { return dealerStrengthVisibility_; }
-  void DealerStrengthButtonsVisibility(Coded<ButtonStatusPossibilities> visibility);
+  Coded<ButtonStatusPossibilities> HitcardButtonsVisibility() const { return Visibility(ButtonGroup::HitCard); }
+  void HitcardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
+    Visibility(ButtonGroup::HitCard, visibility);
+  }
+  Coded<ButtonStatusPossibilities> HolecardButtonsVisibility() const { return Visibility(ButtonGroup::HoleCard); }
+  void HolecardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
+    Visibility(ButtonGroup::HoleCard, visibility);
+  }
+  Coded<ButtonStatusPossibilities> TensRatioButtonVisibility() const { return Visibility(ButtonGroup::TensRatio); }
+  void TensRatioButtonVisibility(Coded<ButtonStatusPossibilities> visibility) {
+    Visibility(ButtonGroup::TensRatio, visibility);
+  }
+  Coded<ButtonStatusPossibilities> DealerStrengthButtonsVisibility() const { return Visibility(ButtonGroup::DealerStrength); }
+  void DealerStrengthButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
+    Visibility(ButtonGroup::DealerStrength, visibility);
+  }
   /// Re-applies the dealer-strength buttons and returns 0 whatever was set; saved forms rely on it.
   Coded<ButtonStatusPossibilities> StatusButtonButtonVisibility();
-  void StatusButtonButtonVisibility(Coded<ButtonStatusPossibilities> visibility);
+  void StatusButtonButtonVisibility(Coded<ButtonStatusPossibilities> visibility) {
+    Visibility(ButtonGroup::Status, visibility);
+  }
   /// Show or hide a group's buttons, without storing anything or pressing or unpressing them. Separators stay.
-  void PlugHitcardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
-  void PlugHoleCardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
-  void PlugTensRatioButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
-  void PlugDealerStrengthButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
-  void PlugStatusButton(const Coded<ButtonStatusPossibilities>& buttonStatus);
+  void PlugHitcardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus) {
+    Plug(ButtonGroup::HitCard, buttonGroupStatus);
+  }
+  void PlugHoleCardButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus) {
+    Plug(ButtonGroup::HoleCard, buttonGroupStatus);
+  }
+  void PlugTensRatioButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus) {
+    Plug(ButtonGroup::TensRatio, buttonGroupStatus);
+  }
+  void PlugDealerStrengthButtons(const Coded<ButtonStatusPossibilities>& buttonGroupStatus) {
+    Plug(ButtonGroup::DealerStrength, buttonGroupStatus);
+  }
+  void PlugStatusButton(const Coded<ButtonStatusPossibilities>& buttonStatus) {
+    Plug(ButtonGroup::Status, buttonStatus);
+  }
 
   /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
   ObjectRef KelvoEdition();
@@ -103,10 +127,10 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
 
   /// A saved property that cannot be read has its default: bottom, and 0 for the visibilities.
   void ReadProperties(PropertyBag& bag) override;
-  /// A property that cannot be written ends it with the bag's error.
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
+  /// A property that cannot be written ends the save with the bag's error.
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     Event<> HitButtonWasPressed{1, "HitButtonWasPressed"};
@@ -144,26 +168,23 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   /// Builds the widgets; called by the variant's constructor, which owns them.
   void Build(CommonWidgets& widgets, std::string_view identification);
 
-  void Unpress(PredictionGroup group);
+  void Unpress(ButtonGroup group);
   void ReleaseTheBlock() { decodedDCB_ = std::make_shared<DecisionBlock>(); }
 
-  Coded<ButtonStatusPossibilities> hitcardVisibility_;
-  Coded<ButtonStatusPossibilities> holecardVisibility_;
-  Coded<ButtonStatusPossibilities> tensRatioVisibility_;
-  Coded<ButtonStatusPossibilities> dealerStrengthVisibility_;
-  Coded<ButtonStatusPossibilities> statusVisibility_;
+  /// What is saved of a group's visibility.
+  Coded<ButtonStatusPossibilities>& VisibilityState(ButtonGroup group) {
+    return visibilities_[static_cast<std::size_t>(group)];
+  }
+  static MethodTable CommonMethods();
 
  private:
-  /// A visibility and the name under which it is saved and announced.
-  struct SavedVisibility {
-    std::string_view name;
-    Coded<ButtonStatusPossibilities> DecisionToolBarControl::*state;
-  };
-  static const SavedVisibility SavedVisibilities[5];
-
-  void Plug(PredictionGroup group, bool shown);
-  std::int32_t RecordOf(PredictionGroup group) const;
-  void Record(PredictionGroup group, std::int32_t value);
+  Coded<ButtonStatusPossibilities> Visibility(ButtonGroup group) const {
+    return visibilities_[static_cast<std::size_t>(group)];
+  }
+  void Visibility(ButtonGroup group, Coded<ButtonStatusPossibilities> visibility);
+  void Plug(ButtonGroup group, const Coded<ButtonStatusPossibilities>& buttonGroupStatus);
+  std::int32_t RecordOf(ButtonGroup group) const;
+  void Record(ButtonGroup group, std::int32_t value);
   void PlaceTheDecisionBAR();
   void Arrange();
   void ButtonWasClicked(const ToolButton& button);
@@ -176,6 +197,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void SetupButtons(const BlockReader& block);
   ToolButton& Button(std::string_view key) { return widgets_->DecisionToolBar.Button(key); }
 
+  std::array<Coded<ButtonStatusPossibilities>, 5> visibilities_;
   CommonWidgets* widgets_ = nullptr;
   std::optional<Blinker> blinker_;
   std::shared_ptr<DecisionBlock> decodedDCB_ = std::make_shared<DecisionBlock>();

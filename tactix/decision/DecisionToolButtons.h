@@ -58,30 +58,27 @@ inline constexpr ToolBarPlay ToolBarPlays[] = {
 inline constexpr std::string_view AdviceKey = "Advice";
 inline constexpr std::string_view StatisticsKey = "ClumpStatistics";
 
-/// The prediction groups. A group is shown and hidden as a whole.
-enum class PredictionGroup { HitCard, HoleCard, TensRatio, DealerStrength };
-
 /// A prediction: its group, its button's key and what the record then says. Code never presses or unpresses the two
 /// unknown ones.
 struct ToolBarPrediction {
-  PredictionGroup group;
+  ButtonGroup group;
   std::string_view key;
   std::int32_t value;
   bool followsTheRecord;
 };
 inline constexpr ToolBarPrediction ToolBarPredictions[] = {
-    {PredictionGroup::HitCard, "HitcardLow", 1, true},
-    {PredictionGroup::HitCard, "HitcardMid", 2, true},
-    {PredictionGroup::HitCard, "HitcardHigh", 3, true},
-    {PredictionGroup::HitCard, "HitcardUnknown", 4, false},
-    {PredictionGroup::HoleCard, "HolecardLow", 1, true},
-    {PredictionGroup::HoleCard, "HolecardMid", 2, true},
-    {PredictionGroup::HoleCard, "HolecardHigh", 3, true},
-    {PredictionGroup::HoleCard, "HolecardUnknown", 4, false},
-    {PredictionGroup::TensRatio, "TensRatioLow", 1, true},
-    {PredictionGroup::TensRatio, "TensRatioHigh", 3, true},
-    {PredictionGroup::DealerStrength, "DealerStrengthWeak", -1, true},
-    {PredictionGroup::DealerStrength, "DealerStrengthStrong", 1, true},
+    {ButtonGroup::HitCard, "HitcardLow", 1, true},
+    {ButtonGroup::HitCard, "HitcardMid", 2, true},
+    {ButtonGroup::HitCard, "HitcardHigh", 3, true},
+    {ButtonGroup::HitCard, "HitcardUnknown", 4, false},
+    {ButtonGroup::HoleCard, "HolecardLow", 1, true},
+    {ButtonGroup::HoleCard, "HolecardMid", 2, true},
+    {ButtonGroup::HoleCard, "HolecardHigh", 3, true},
+    {ButtonGroup::HoleCard, "HolecardUnknown", 4, false},
+    {ButtonGroup::TensRatio, "TensRatioLow", 1, true},
+    {ButtonGroup::TensRatio, "TensRatioHigh", 3, true},
+    {ButtonGroup::DealerStrength, "DealerStrengthWeak", -1, true},
+    {ButtonGroup::DealerStrength, "DealerStrengthStrong", 1, true},
 };
 
 }  // namespace tactix

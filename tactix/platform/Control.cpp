@@ -27,9 +27,9 @@ Control::Control(Site& site) : site_(site), extender_(*this, site) { site_.Attac
 
 Control::~Control() { site_.Detach(*this); }
 
-void Control::ReadProperties(PropertyBag&) {}
+void Control::ReadProperties(PropertyBag& bag) { Properties().Restore(*this, bag); }
 
-void Control::WriteProperties(PropertyBag&) {}
+void Control::WriteProperties(PropertyBag& bag) { Properties().Save(*this, bag); }
 
 void Control::Displayed() {
   ForEachNested(extender_, [](Control& nested) { nested.Displayed(); });
@@ -45,6 +45,11 @@ void Control::Terminated() {
 
 const PropertyTable& Control::Properties() const {
   static const PropertyTable none;
+  return none;
+}
+
+const MethodTable& Control::Methods() const {
+  static const MethodTable none;
   return none;
 }
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "tactix/platform/Export.h"
+#include "tactix/platform/MethodTable.h"
 #include "tactix/platform/Object.h"
 #include "tactix/platform/PropertyBag.h"
 #include "tactix/platform/Site.h"
@@ -29,6 +30,7 @@ class TACTIX_EXPORT Control : public Trackable {
   Site& ItsSite() const { return site_; }
 
   virtual void InitProperties() {}
+  /// Both go through the saved rows of Properties(), in their order.
   virtual void ReadProperties(PropertyBag& bag);
   virtual void WriteProperties(PropertyBag& bag);
   /// The extender's size has changed.
@@ -42,13 +44,16 @@ class TACTIX_EXPORT Control : public Trackable {
   /// The control is about to end. Reaches the controls inside this one.
   virtual void Terminated();
 
-  /// A late-bound object with the control's properties, then its extender's; fails with 91 once the control is gone.
+  /// A late-bound object with the control's properties and methods, then its extender's; fails with 91 once the control
+  /// is gone.
   ObjectRef Handle() { return extender_.Handle(); }
 
-  /// The control's own properties for late-bound access.
+  /// The control's own properties and methods, for late-bound access, saving and type information.
   virtual const PropertyTable& Properties() const;
+  virtual const MethodTable& Methods() const;
 
  protected:
+  /// A saved property has changed; the name is the one that it is saved under.
   void NotifyChanged(std::string_view propertyName) { site_.PropertyChanged(propertyName); }
 
  private:

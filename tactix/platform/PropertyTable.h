@@ -3,97 +3,74 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
-#include "tactix/platform/Error.h"
+#include "tactix/platform/Control.h"
 #include "tactix/platform/Export.h"
-#include "tactix/platform/Object.h"
-#include "tactix/platform/Variant.h"
+#include "tactix/platform/PropertyRows.h"
 
 namespace tactix {
 
-class Control;
+/// What happens where a saved property cannot be read or written: the next one has its turn, the error ends it and
+/// reaches the container, or (for reading) the property takes its default.
+enum class OnFailure { PassOver, Report, TakeTheDefault };
 
-/// A variant as the C++ type of a property.
-template <class T>
-T FromVariant(const Variant& value) {
-  if constexpr (std::is_same_v<T, bool>) {
-    return value.ToBoolean();
-  } else if constexpr (std::is_same_v<T, std::int16_t>) {
-    return value.ToInteger();
-  } else if constexpr (std::is_same_v<T, std::int32_t>) {
-    return value.ToLong();
-  } else if constexpr (std::is_same_v<T, float>) {
-    return value.ToSingle();
-  } else if constexpr (std::is_same_v<T, std::string>) {
-    return value.ToText();
-  } else if constexpr (std::is_same_v<T, Font>) {
-    return value.ToFont();
-  } else if constexpr (std::is_same_v<T, ObjectRef>) {
-    return value.ToObject();
-  } else {
-    return T(value.ToLong());  // a coded enumeration
-  }
-}
+enum class SavedWays { BothWays, SavedOnly, RestoredOnly };
 
-/// The properties of a control class by name, for late-bound access and for sweeps over all controls.
-class TACTIX_EXPORT PropertyTable {
+/// What is not as a saved property's own row says.
+struct SavedDifferently {
+  SavedWays ways = SavedWays::BothWays;
+  /// Its name in saved forms and notices.
+  std::string_view name = {};
+  /// What is saved, where that is not what the property reads.
+  std::function<Variant(Control&)> value = nullptr;
+  /// How it comes back, where that is not by setting the property.
+  std::function<void(Control&, const Variant&)> restore = nullptr;
+  /// Saved also where it equals its default.
+  bool always = false;
+};
+
+/// The properties of a control class: for late-bound access, for saving and restoring, for type information and for
+/// sweeps over all controls.
+class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> {
  public:
-  struct Row {
+  struct SavedRow {
     std::string name;
-    std::function<Variant(Control&)> get;               // empty: set-only
-    std::function<void(Control&, const Variant&)> set;  // empty: get-only
+    Getter defaultValue;
+    Getter value = nullptr;    ///< empty: never saved
+    Setter restore = nullptr;  ///< empty: never read back
+    bool always = false;
   };
 
-  template <class C, class G, class S>
-  PropertyTable& Property(std::string_view name, G (C::*get)() const, void (C::*set)(S)) {
-    return Add(name, Getter(get), Setter(set));
-  }
-  /// For a getter with a side effect.
-  template <class C, class G, class S>
-  PropertyTable& Property(std::string_view name, G (C::*get)(), void (C::*set)(S)) {
-    return Add(
-        name, [get](Control& control) { return ToVariant((static_cast<C&>(control).*get)()); }, Setter(set));
-  }
-  template <class C, class G>
-  PropertyTable& GetOnly(std::string_view name, G (C::*get)() const) {
-    return Add(name, Getter(get), nullptr);
-  }
-  template <class C, class S>
-  PropertyTable& SetOnly(std::string_view name, void (C::*set)(S)) {
-    return Add(name, nullptr, Setter(set));
-  }
+  /// The property added last is saved, with this default. Properties are saved and restored in the order in which this
+  /// was said of them.
+  PropertyTable& Saved(Variant defaultValue, SavedDifferently differently = {});
+  /// The same with a default that depends on the control.
+  PropertyTable& SavedWithDefault(Getter defaultValue, SavedDifferently differently = {});
+  /// Something saved or read back that is no property.
+  PropertyTable& SavedBeside(SavedRow row);
 
-  /// Null when there is no such property; names compare without case.
-  const Row* Find(std::string_view name) const;
-  const std::vector<Row>& Rows() const { return rows_; }
+  /// A default that is the same for all controls of the class.
+  static Getter Always(Variant value);
+
+  PropertyTable& OnFailedRead(OnFailure onFailure);
+  PropertyTable& OnFailedWrite(OnFailure onFailure);
+
+  /// In the order in which they are saved and restored.
+  const std::vector<SavedRow>& SavedRows() const { return saved_; }
+
+  /// What Control::ReadProperties and WriteProperties do. The bag may destroy the control, which ends it.
+  void Restore(Control& control, PropertyBag& bag) const;
+  void Save(Control& control, PropertyBag& bag) const;
 
  private:
-  template <class C, class G>
-  static auto Getter(G (C::*get)() const) {
-    return [get](Control& control) { return ToVariant((static_cast<C&>(control).*get)()); };
-  }
-  template <class C, class S>
-  static auto Setter(void (C::*set)(S)) {
-    using Plain = std::remove_cvref_t<S>;
-    using Stored = std::conditional_t<std::is_same_v<Plain, std::string_view>, std::string, Plain>;
-    return
-        [set](Control& control, const Variant& value) { (static_cast<C&>(control).*set)(FromVariant<Stored>(value)); };
-  }
-  template <class T>
-  static Variant ToVariant(const T& value) {
-    if constexpr (std::is_constructible_v<Variant, const T&>) {
-      return Variant(value);
-    } else {
-      return Variant(value.Value());
-    }
-  }
-  PropertyTable& Add(std::string_view name, std::function<Variant(Control&)> get,
-                     std::function<void(Control&, const Variant&)> set);
-
-  std::vector<Row> rows_;
+  std::vector<SavedRow> saved_;
+  OnFailure onFailedRead_ = OnFailure::PassOver;
+  OnFailure onFailedWrite_ = OnFailure::PassOver;
 };
+
+/// The container's font: what a saved font defaults to.
+TACTIX_EXPORT Variant AmbientFontOf(Control& control);
 
 }  // namespace tactix

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <string_view>
+#include "tactix/scoring/RegisterMembers.h"
 
-#include "tactix/platform/PropertyTable.h"
 
 namespace tactix {
 
@@ -89,14 +89,12 @@ void DecisionRegiLOG::Displayed() {
 void DecisionRegiLOG::Resized() { Arrange(); }
 
 const PropertyTable& DecisionRegiLOG::Properties() const {
-  using Self = DecisionRegiLOG;
-  static const PropertyTable table =
-      PropertyTable()
-          .Property<Self>("NumberOfDecisions", &Self::NumberOfDecisions, &Self::NumberOfDecisions)
-          .Property<Self>("NumberOfCorrectDecisions", &Self::NumberOfCorrectDecisions, &Self::NumberOfCorrectDecisions)
-          .Property<Self>("NumberOfBreakDecisions", &Self::NumberOfBreakDecisions, &Self::NumberOfBreakDecisions)
-          .Property<Self>("TypeOfDecisionRegister", &Self::TypeOfDecisionRegister, &Self::TypeOfDecisionRegister)
-          .SetOnly<Self>("AfterAdvice", &Self::AfterAdvice);
+  static const PropertyTable table = RegisterProperties<DecisionRegiLOG>();
+  return table;
+}
+
+const MethodTable& DecisionRegiLOG::Methods() const {
+  static const MethodTable table = RegisterMethods<DecisionRegiLOG>();
   return table;
 }
 

@@ -43,6 +43,7 @@ class TACTIX_EXPORT DecisionRegiLOG : public Control {
   void Displayed() override;
   void Resized() override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     std::tuple<> All() { return {}; }

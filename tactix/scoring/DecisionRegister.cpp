@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "tactix/platform/NumberText.h"
-#include "tactix/platform/PropertyTable.h"
+#include "tactix/scoring/RegisterMembers.h"
 
 namespace tactix {
 
@@ -174,14 +174,12 @@ void DecisionRegister::Displayed() {
 }
 
 const PropertyTable& DecisionRegister::Properties() const {
-  using Self = DecisionRegister;
-  static const PropertyTable table =
-      PropertyTable()
-          .Property<Self>("NumberOfDecisions", &Self::NumberOfDecisions, &Self::NumberOfDecisions)
-          .Property<Self>("NumberOfCorrectDecisions", &Self::NumberOfCorrectDecisions, &Self::NumberOfCorrectDecisions)
-          .Property<Self>("NumberOfBreakDecisions", &Self::NumberOfBreakDecisions, &Self::NumberOfBreakDecisions)
-          .Property<Self>("TypeOfDecisionRegister", &Self::TypeOfDecisionRegister, &Self::TypeOfDecisionRegister)
-          .SetOnly<Self>("AfterAdvice", &Self::AfterAdvice);
+  static const PropertyTable table = RegisterProperties<DecisionRegister>();
+  return table;
+}
+
+const MethodTable& DecisionRegister::Methods() const {
+  static const MethodTable table = RegisterMethods<DecisionRegister>();
   return table;
 }
 

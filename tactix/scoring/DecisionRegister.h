@@ -48,6 +48,7 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   void Displayed() override;
   void Resized() override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     std::tuple<> All() { return {}; }

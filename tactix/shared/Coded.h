@@ -3,6 +3,8 @@
 #include <compare>
 #include <cstdint>
 
+#include "tactix/platform/LateBound.h"
+
 namespace tactix {
 
 /// A 32-bit number that stands for a row of the enumeration E. Any number is a value, whether a row has it or not.
@@ -23,6 +25,14 @@ class Coded {
 
  private:
   std::int32_t value_ = 0;
+};
+
+/// For late binding; EnumerationNames.h says what the enumeration is called.
+template <class E>
+struct LateBound<Coded<E>> {
+  static constexpr ValueType Type{ValueKind::Enumeration, NameOfEnumeration(E())};
+  static Coded<E> From(const Variant& value) { return value.ToLong(); }
+  static Variant To(Coded<E> value) { return value.Value(); }
 };
 
 }  // namespace tactix

@@ -4,7 +4,6 @@
 
 #include "tactix/platform/Tolerance.h"
 #include "tactix/strategy/BettingDescription.h"
-#include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
 
@@ -16,7 +15,6 @@ constexpr StrategyListRules Rules = {
     .boxName = "BetStrategyListBox",
     .toolTip = "Click the down-arrow to open the Betting Strategy List",
     .highestReportedRow = BetStrategyList::HighestReportedRow,
-    .saved = SavedInFormOrder,
 };
 
 }  // namespace
@@ -49,6 +47,11 @@ void BetStrategyList::Report(std::int32_t row) {
   const Weak<BetStrategyList> self(this);
   if (!quietSelection_) NumberedStrategyList::Report(row);
   if (self) quietSelection_ = false;
+}
+
+const MethodTable& BetStrategyList::Methods() const {
+  static const MethodTable table = CommonMethods().Method("InputBettingStrategyDescriptions", &BetStrategyList::InputBettingStrategyDescriptions);
+  return table;
 }
 
 }  // namespace tactix

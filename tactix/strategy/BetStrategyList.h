@@ -17,6 +17,7 @@ class TACTIX_EXPORT BetStrategyList : public NumberedStrategyList {
   /// set (91); any other error ends it and goes on to the caller under its own code, with the source
   /// "BettingStrategyList::" and the description "InputBettingStrategyDescriptions". Rows already added stay.
   void InputBettingStrategyDescriptions();
+  const MethodTable& Methods() const override;
 
   /// The next accepted selection raises no event; false by default. SelectThisStrategy sets it, also where the box then
   /// refuses the row, and the next accepted selection clears it.

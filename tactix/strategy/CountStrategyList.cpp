@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "tactix/platform/Tolerance.h"
+#include "tactix/shared/EnumerationNames.h"
 #include "tactix/strategy/CountDescription.h"
-#include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
 
@@ -13,15 +13,12 @@ namespace tactix {
 
 namespace {
 
-constexpr const SavedListProperty* SavedAfterTheSystem[] = {
-    &SavedBackColor, &SavedForeColor, &SavedToolTipText, &SavedFont, &SavedDefaultContent, &SavedText, &SavedEnabled};
+constexpr std::string_view CountStrategyName = "CountStrategy";
 
 constexpr StrategyListRules Rules = {
     .text = SelectACountStrategyText,
     .fontName = {},
     .highestReportedRow = CountStrategyList::HighestReportedRow,
-    .saved = SavedAfterTheSystem,
-    .failedWrite = OnFailure::Report,
     .failedResize = OnFailure::Report,
     .boxSize = BoxSize::Width,
     .rowWidth = RowWidth::SixteenBits,
@@ -86,7 +83,7 @@ bool CountStrategyList::Select(std::int32_t system) {
 
 void CountStrategyList::CountStrategy(Coded<CountStrategyPossibilities> system) {
   const Weak<CountStrategyList> self(this);
-  if (Select(system.Value()) && self) NotifyChanged("CountStrategy");
+  if (Select(system.Value()) && self) NotifyChanged(CountStrategyName);
 }
 
 const CountStrategyRecord& CountStrategyList::Record(Coded<CountStrategyPossibilities> system) const {
@@ -139,25 +136,35 @@ void CountStrategyList::Report(std::int32_t row) {
   Events.StrategySelectionChanged.Raise(newStrategySelected, description);
 }
 
-void CountStrategyList::ReadProperties(PropertyBag& bag) {
-  const Weak<CountStrategyList> self(this);
-  IgnoringErrors([&] {
-    const std::int16_t system = bag.Read("CountStrategy", DefaultSystem).ToInteger();
-    if (self) Select(system);
-  });
-  if (self) StrategyListControl::ReadProperties(bag);
-}
-
-void CountStrategyList::WriteProperties(PropertyBag& bag) {
-  const Weak<CountStrategyList> self(this);
-  bag.Write("CountStrategy", ListIndex(), DefaultSystem);
-  if (self) StrategyListControl::WriteProperties(bag);
-}
-
 const PropertyTable& CountStrategyList::Properties() const {
   using Self = CountStrategyList;
-  static const PropertyTable table =
-      CommonProperties().Property<Self>("CountStrategy", &Self::CountStrategy, &Self::CountStrategy);
+  static const PropertyTable table = [] {
+    PropertyTable rows;
+    rows.OnFailedWrite(OnFailure::Report)
+        .Property(CountStrategyName, &Self::CountStrategy, &Self::CountStrategy)
+        .Saved(DefaultSystem, {.value = PropertyTable::GetBy([](Self& self) { return self.ListIndex(); }),
+                               .restore = PropertyTable::SetBy([](Self& self, std::int16_t system) {
+                                 self.Select(system);
+                               })});
+    SavedRow::BackColor(rows);
+    SavedRow::ForeColor(rows);
+    SavedRow::ToolTipText(rows);
+    SavedRow::Font(rows);
+    SavedRow::DefaultContent(rows);
+    SavedRow::Text(rows);
+    SavedRow::Enabled(rows);
+    AddTheOtherProperties(rows);
+    return rows;
+  }();
+  return table;
+}
+
+const MethodTable& CountStrategyList::Methods() const {
+  using Self = CountStrategyList;
+  static const MethodTable table =
+      CommonMethods()
+          .Method("InputCountStrategyDescriptions", &Self::InputCountStrategyDescriptions)
+          .Method("CountValue", &Self::CountValue);
   return table;
 }
 

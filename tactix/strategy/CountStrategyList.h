@@ -42,9 +42,8 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   /// The system being filled; after a fill, the last one visited.
   std::int16_t CurrentIndex() const { return FilledNumber(); }
 
-  void ReadProperties(PropertyBag& bag) override;
-  void WriteProperties(PropertyBag& bag) override;
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     /// A row was accepted; carries the row + 10, deliberately, and the list's text. What the handler writes to them is

@@ -29,10 +29,23 @@ std::string NumberedStrategyList::DescribeBetting(std::int16_t strategy) {
   return StrategyListData::Catalogue()->DescribeBettingStrategy(strategy);
 }
 
-const PropertyTable& NumberedStrategyList::Properties() const {
+PropertyTable NumberedStrategyList::NumberedProperties(OnFailure onFailure) {
+  PropertyTable table;
+  table.OnFailedRead(onFailure).OnFailedWrite(onFailure);
+  SavedRow::Enabled(table);
+  SavedRow::BackColor(table);
+  SavedRow::ForeColor(table);
+  SavedRow::Text(table);
+  SavedRow::ToolTipText(table);
+  SavedRow::DefaultContent(table);
+  SavedRow::Font(table);
+  AddTheOtherProperties(table);
   using Self = NumberedStrategyList;
-  static const PropertyTable table =
-      CommonProperties().Property<Self>("SelectThisStrategy", &Self::SelectThisStrategy, &Self::SelectThisStrategy);
+  return table.Property("SelectThisStrategy", &Self::SelectThisStrategy, &Self::SelectThisStrategy);
+}
+
+const PropertyTable& NumberedStrategyList::Properties() const {
+  static const PropertyTable table = NumberedProperties(OnFailure::PassOver);
   return table;
 }
 

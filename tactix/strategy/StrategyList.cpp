@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "tactix/strategy/PlayingDescription.h"
-#include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
 
@@ -14,7 +13,6 @@ namespace {
 
 constexpr StrategyListRules Rules = {
     .highestReportedRow = StrategyList::HighestReportedRow,
-    .saved = SavedInFormOrder,
     .atTheEnd = AtTheEnd::ReleaseTheCollection,
 };
 
@@ -57,6 +55,11 @@ void StrategyList::FillRow(std::int16_t strategy) {
   } else if (auto text = PlayingRowText(buffer.Text(), strategy)) {
     Box().Append(std::move(*text));
   }
+}
+
+const MethodTable& StrategyList::Methods() const {
+  static const MethodTable table = CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyList::InputPlayingStrategyDescriptions);
+  return table;
 }
 
 }  // namespace tactix

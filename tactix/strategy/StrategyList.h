@@ -16,6 +16,7 @@ class TACTIX_EXPORT StrategyList : public NumberedStrategyList {
   /// Refills the box from the catalogue, strategies -1 to the highest loaded. Fails as the catalogue fails, and with 13
   /// for a field that is no flag; rows already added stay.
   void InputPlayingStrategyDescriptions();
+  const MethodTable& Methods() const override;
 
   /// Rows past this one are shown, but never reported.
   static constexpr std::int32_t HighestReportedRow = 55;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "tactix/platform/Tolerance.h"
-#include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
 
@@ -43,58 +42,6 @@ void StrategyListControl::SetUpBox() {
 
 void StrategyListControl::AddItem(std::string_view item, std::optional<std::int32_t> index) {
   Box().AddItem(item, index);
-}
-
-Color StrategyListControl::BackColor() const { return Box().BackColor(); }
-
-void StrategyListControl::BackColor(Color color) {
-  Box().BackColor(color);
-  NotifyChanged("BackColor");
-}
-
-Color StrategyListControl::ForeColor() const { return Box().ForeColor(); }
-
-void StrategyListControl::ForeColor(Color color) {
-  Box().ForeColor(color);
-  NotifyChanged("ForeColor");
-}
-
-bool StrategyListControl::Enabled() const { return Box().Enabled(); }
-
-void StrategyListControl::Enabled(bool enabled) {
-  const Weak<StrategyListControl> self(this);
-  Box().Enabled(enabled);
-  if (self) NotifyChanged("Enabled");
-}
-
-const tactix::Font& StrategyListControl::Font() const { return Box().Font(); }
-
-void StrategyListControl::Font(const tactix::Font& font) {
-  Box().Font(font);
-  NotifyChanged("Font");
-}
-
-const std::string& StrategyListControl::Text() const { return Box().Text(); }
-
-void StrategyListControl::Text(std::string_view text) {
-  const Weak<StrategyListControl> self(this);
-  Box().Text(text);
-  if (self) NotifyChanged("Text");
-}
-
-const std::string& StrategyListControl::ToolTipText() const { return Box().ToolTipText(); }
-
-void StrategyListControl::ToolTipText(std::string_view text) {
-  Box().ToolTipText(text);
-  NotifyChanged("ToolTipText");
-}
-
-const std::string& StrategyListControl::DefaultContent() const { return Box().Text(); }
-
-void StrategyListControl::DefaultContent(std::string_view text) {
-  const Weak<StrategyListControl> self(this);
-  Box().Text(text);
-  if (self) NotifyChanged("DefaultContent");
 }
 
 std::int16_t StrategyListControl::ListIndex() const { return Variant(Box().ListIndex() - 1).ToInteger(); }
@@ -172,27 +119,6 @@ void StrategyListControl::GoBackToTheLastGoodRow() {
   if (self) refusing_ = false;
 }
 
-void StrategyListControl::ReadProperties(PropertyBag& bag) {
-  const Weak<StrategyListControl> self(this);
-  for (const SavedListProperty* property : rules_.saved) {
-    if (!property->set) continue;
-    Run(rules_.failedRead, [&] {
-      const Variant value = bag.Read(property->name, property->defaultValue(ItsSite()));
-      if (self) property->set(Box(), value);
-    });
-    if (!self) return;
-  }
-}
-
-void StrategyListControl::WriteProperties(PropertyBag& bag) {
-  const Weak<StrategyListControl> self(this);
-  for (const SavedListProperty* property : rules_.saved) {
-    Run(rules_.failedWrite,
-        [&] { bag.Write(property->name, property->get(Box()), property->defaultValue(ItsSite())); });
-    if (!self) return;
-  }
-}
-
 void StrategyListControl::Resized() {
   Run(rules_.failedResize, [this] {
     ListBox& box = Box();
@@ -205,23 +131,6 @@ void StrategyListControl::Terminated() {
   ObjectRef released;
   if (rules_.atTheEnd == AtTheEnd::ReleaseTheCollection) released = std::exchange(heldCollection_, nullptr);
   Control::Terminated();
-}
-
-PropertyTable StrategyListControl::CommonProperties() {
-  using Self = StrategyListControl;
-  return PropertyTable()
-      .Property<Self>("BackColor", &Self::BackColor, &Self::BackColor)
-      .Property<Self>("ForeColor", &Self::ForeColor, &Self::ForeColor)
-      .Property<Self>("Enabled", &Self::Enabled, &Self::Enabled)
-      .Property<Self>("Font", &Self::Font, &Self::Font)
-      .Property<Self>("Text", &Self::Text, &Self::Text)
-      .Property<Self>("ToolTipText", &Self::ToolTipText, &Self::ToolTipText)
-      .Property<Self>("DefaultContent", &Self::DefaultContent, &Self::DefaultContent)
-      .Property<Self>("ControlType", &Self::ControlType, &Self::ControlType)
-      .Property<Self>("ListIndex", &Self::ListIndex, &Self::ListIndex)
-      .GetOnly<Self>("Style", &Self::Style)
-      .Property<Self>("Visible", &Self::Visible, &Self::Visible)
-      .GetOnly<Self>("StrategyCount", &Self::StrategyCount);
 }
 
 }  // namespace tactix

@@ -68,8 +68,6 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   /// The last row that a selection has accepted, 0 by default.
   std::int32_t LastGoodListIndex() const { return lastGoodListIndex_; }
 
-  void ReadProperties(PropertyBag& bag) override;
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override;
   void Terminated() override;
 
@@ -96,9 +94,24 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   /// The number being filled; after a fill, the last one visited.
   std::int16_t FilledNumber() const { return filledNumber_; }
 
-  static PropertyTable CommonProperties();
+  /// The rows of the properties that all lists save: each list adds them in the order in which it saves them.
+  struct TACTIX_EXPORT SavedRow {
+    static void BackColor(PropertyTable& table);
+    static void ForeColor(PropertyTable& table);
+    static void Enabled(PropertyTable& table);
+    static void Font(PropertyTable& table);
+    static void Text(PropertyTable& table);
+    static void ToolTipText(PropertyTable& table);
+    static void DefaultContent(PropertyTable& table);
+  };
+  /// The rows of those that no list saves.
+  static void AddTheOtherProperties(PropertyTable& table);
+  static MethodTable CommonMethods();
 
  private:
+  using List = StrategyListControl;
+
+  void SetText(std::string_view text, std::string_view propertyName);
   void ReportTheStrategySelection();
   void GoBackToTheLastGoodRow();
   void LoadTheStrategyRange();

@@ -2,7 +2,6 @@
 
 #include "tactix/platform/Tolerance.h"
 #include "tactix/strategy/PlayingDescription.h"
-#include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
 
@@ -12,9 +11,6 @@ namespace {
 
 constexpr StrategyListRules Rules = {
     .highestReportedRow = StrategyListLITE::HighestReportedRow,
-    .saved = SavedInFormOrder,
-    .failedRead = OnFailure::Report,
-    .failedWrite = OnFailure::Report,
     .failedResize = OnFailure::Report,
     .atTheEnd = AtTheEnd::ReleaseTheCollection,
 };
@@ -37,6 +33,16 @@ void StrategyListLITE::FillRow(std::int16_t strategy) {
   if (isEmpty || !self) return;
   PassingOverObjectNotSet([&] { buffer.Write(DescribePlaying(strategy)); });
   if (self) Box().Append(CompactRowText(buffer.Text(), strategy));
+}
+
+const PropertyTable& StrategyListLITE::Properties() const {
+  static const PropertyTable table = NumberedProperties(OnFailure::Report);
+  return table;
+}
+
+const MethodTable& StrategyListLITE::Methods() const {
+  static const MethodTable table = CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyListLITE::InputPlayingStrategyDescriptions);
+  return table;
 }
 
 }  // namespace tactix

@@ -18,6 +18,8 @@ class TACTIX_EXPORT StrategyListLITE : public NumberedStrategyList {
   /// Refills the box from the catalogue, strategies -1 to the highest loaded. Passes over what is not set (91); any
   /// other error ends it quietly, so that the rows added so far and the old text stay.
   void InputPlayingStrategyDescriptions();
+  const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   /// Rows past this one are shown, but never reported.
   static constexpr std::int32_t HighestReportedRow = 50;

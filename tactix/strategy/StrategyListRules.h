@@ -1,16 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string_view>
 
+#include "tactix/platform/PropertyTable.h"
 #include "tactix/strategy/RowTexts.h"
 
 namespace tactix {
-
-struct SavedListProperty;
-
-enum class OnFailure { PassOver, Report };
 
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
@@ -28,10 +24,6 @@ struct StrategyListRules {
   std::string_view fontName = "Comic Sans MS";
   /// Rows past this one are shown, but never reported.
   std::int32_t highestReportedRow;
-  /// Written in this order, and read in it as far as they are read.
-  std::span<const SavedListProperty* const> saved;
-  OnFailure failedRead = OnFailure::PassOver;
-  OnFailure failedWrite = OnFailure::PassOver;
   OnFailure failedResize = OnFailure::PassOver;
   /// What of the control's size the box takes.
   BoxSize boxSize = BoxSize::WidthAndHeight;

@@ -4,11 +4,13 @@
 #include <array>
 
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {
 
 namespace {
 
+constexpr std::string_view CaptionName = "Caption";
 constexpr std::string_view DesignCaption = "Strategy Un-defined";
 constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 735;
@@ -48,7 +50,7 @@ void StrategyMarquix::Arrange() {
 
 void StrategyMarquix::Caption(std::string_view caption) {
   Children.labelStrategyBanner.Caption(caption);
-  NotifyChanged("Caption");
+  NotifyChanged(CaptionName);
 }
 
 void StrategyMarquix::ControlType(Coded<TypeOfStrategyMarquixControl> type) {
@@ -65,12 +67,7 @@ void StrategyMarquix::LoadStrategiesFromIniFile() {
 
 void StrategyMarquix::ReadProperties(PropertyBag& bag) {
   const Weak<StrategyMarquix> self(this);
-  const std::string caption = bag.Read("Caption", Caption()).ToText();
-  if (!self) return;
-  Children.labelStrategyBanner.Caption(caption);
-  const std::int32_t type = bag.Read("Control Type", controlType_.Value()).ToLong();
-  if (!self) return;
-  ControlType(type);
+  Control::ReadProperties(bag);
   if (!self) return;
   // Under the name of its own value: nothing is ever saved there.
   const Variant marked = Children.optStrategySelected.Value();
@@ -78,19 +75,41 @@ void StrategyMarquix::ReadProperties(PropertyBag& bag) {
   if (self) Children.optStrategySelected.Value(read);
 }
 
-void StrategyMarquix::WriteProperties(PropertyBag& bag) { bag.Write("Caption", Caption()); }
-
 const PropertyTable& StrategyMarquix::Properties() const {
   using Self = StrategyMarquix;
   using Type = Coded<TypeOfStrategyMarquixControl>;
-  using ListFormats = Coded<StrategyListFormats>;
+  const auto caption = [](Self& self) { return self.Caption(); };
+  const auto restoreCaption = [](Self& self, const std::string& text) {
+    self.Children.labelStrategyBanner.Caption(text);
+  };
+  const auto controlType = [](Self& self) { return self.ControlType(); };
   static const PropertyTable table =
       PropertyTable()
-          .Property<Self, const std::string&, std::string_view>("Caption", &Self::Caption, &Self::Caption)
+          .OnFailedRead(OnFailure::Report)
+          .OnFailedWrite(OnFailure::Report)
+          .Property(CaptionName, &Self::Caption, &Self::Caption)
+          .SavedWithDefault(PropertyTable::GetBy(caption),
+                            {.restore = PropertyTable::SetBy(restoreCaption), .always = true})
           .Property<Self, Type, Type>("ControlType", &Self::ControlType, &Self::ControlType)
-          .Property<Self>("Enabled", &Self::Enabled, &Self::Enabled)
-          .Property<Self>("ListIndex", &Self::ListIndex, &Self::ListIndex)
-          .Property<Self, ListFormats, ListFormats>("ourStrategyListFormats", &Self::Formats, &Self::Formats);
+          .SavedWithDefault(PropertyTable::GetBy(controlType),
+                            {.ways = SavedWays::RestoredOnly, .name = "Control Type"})
+          .Property("Enabled", &Self::Enabled, &Self::Enabled)
+          .Property("ListIndex", &Self::ListIndex, &Self::ListIndex)
+          .Field("ourStrategyListFormats", &Self::ourStrategyListFormats);
+  return table;
+}
+
+const MethodTable& StrategyMarquix::Methods() const {
+  using Self = StrategyMarquix;
+  static const MethodTable table =
+      MethodTable()
+          .Method("AddItem", &Self::AddItem)
+          .Method("aStrategyExists", &Self::aStrategyExists)
+          .Method("InputPlayingStrategyDescriptions", &Self::InputPlayingStrategyDescriptions)
+          .Method("LoadStrategiesFromIniFile", &Self::LoadStrategiesFromIniFile)
+          .Method("SelectThisStrategy", &Self::SelectThisStrategy)
+          .Method("SetFocus", &Self::SetFocus)
+          .Method("UseThisStrategyList", &Self::UseThisStrategyList);
   return table;
 }
 

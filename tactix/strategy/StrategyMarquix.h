@@ -62,12 +62,11 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
   }
 
   /// Reads the caption, "Control Type" and the mark, the last one under the name "True" or "False", as it stands. A
-  /// property that fails ends the load or the save.
+  /// property that fails ends the load or the save, which writes the caption only.
   void ReadProperties(PropertyBag& bag) override;
-  /// Writes the caption only.
-  void WriteProperties(PropertyBag& bag) override;
   void Resized() override { Arrange(); }
   const PropertyTable& Properties() const override;
+  const MethodTable& Methods() const override;
 
   struct EventSet {
     /// Declared for hosts; not raised by the marquee.
@@ -94,9 +93,6 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
 
  private:
   void Arrange();
-  // For late-bound access, which knows no fields.
-  Coded<StrategyListFormats> Formats() const { return ourStrategyListFormats; }
-  void Formats(Coded<StrategyListFormats> formats) { ourStrategyListFormats = formats; }
 
   Coded<TypeOfStrategyMarquixControl> controlType_;
 };

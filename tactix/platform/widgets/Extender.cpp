@@ -48,4 +48,11 @@ bool Extender::WriteMember(std::string_view name, const Variant& value) {
   return true;
 }
 
+bool Extender::CallMember(std::string_view name, std::span<Variant> arguments, Variant& result) {
+  const MethodTable::Row* const row = control_.Methods().Find(name);
+  if (!row) return false;
+  result = row->call(control_, arguments);
+  return true;
+}
+
 }  // namespace tactix

@@ -34,6 +34,7 @@ class TACTIX_EXPORT Extender final : public Widget {
   float TwipsPerUnit() const override;
   bool ReadMember(std::string_view name, Variant& value) const override;
   bool WriteMember(std::string_view name, const Variant& value) override;
+  bool CallMember(std::string_view name, std::span<Variant> arguments, Variant& result) override;
 
   static constexpr float TwipsPerPixel = 15.0F;
 

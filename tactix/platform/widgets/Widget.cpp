@@ -25,8 +25,9 @@ class WidgetHandle final : public Object {
     if (!Target().WriteMember(name, value)) throw Error(Error::NoSuchMember);
   }
   Variant Call(std::string_view name, std::span<Variant> arguments) override {
-    Target();
-    return Object::Call(name, arguments);
+    Variant result;
+    if (!Target().CallMember(name, arguments, result)) return Object::Call(name, arguments);
+    return result;
   }
 
  private:

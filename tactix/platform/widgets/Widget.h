@@ -177,11 +177,13 @@ class TACTIX_EXPORT Widget : public Trackable {
   /// How many twips one unit of the coordinates of this widget's own place is.
   virtual float TwipsPerUnit() const;
 
-  /// A late-bound object with the widget's properties; fails with 91 once the widget is gone.
+  /// A late-bound object with the widget's members; fails with 91 once the widget is gone.
   ObjectRef Handle();
   /// Late-bound access: false when it has no such property.
   virtual bool ReadMember(std::string_view name, Variant& value) const;
   virtual bool WriteMember(std::string_view name, const Variant& value);
+  /// The same for a method. Only controls have methods.
+  virtual bool CallMember(std::string_view, std::span<Variant>, Variant&) { return false; }
 
   void Observe(WidgetObserver* observer) { observer_ = observer; }
   WidgetObserver* Observer() const { return observer_; }

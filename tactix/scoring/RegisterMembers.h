@@ -1,0 +1,29 @@
+#pragma once
+
+#include "tactix/platform/MethodTable.h"
+#include "tactix/platform/PropertyTable.h"
+#include "tactix/shared/EnumerationNames.h"
+
+namespace tactix {
+
+// The two registers have the same members.
+
+template <class Register>
+PropertyTable RegisterProperties() {
+  return PropertyTable()
+      .Property("NumberOfDecisions", &Register::NumberOfDecisions, &Register::NumberOfDecisions)
+      .Property("NumberOfCorrectDecisions", &Register::NumberOfCorrectDecisions, &Register::NumberOfCorrectDecisions)
+      .Property("NumberOfBreakDecisions", &Register::NumberOfBreakDecisions, &Register::NumberOfBreakDecisions)
+      .Property("TypeOfDecisionRegister", &Register::TypeOfDecisionRegister, &Register::TypeOfDecisionRegister)
+      .SetOnly("AfterAdvice", &Register::AfterAdvice);
+}
+
+template <class Register>
+MethodTable RegisterMethods() {
+  return MethodTable()
+      .Method("DisplayTheDrillResults", &Register::DisplayTheDrillResults)
+      .Method("ResetDecisionData", &Register::ResetDecisionData)
+      .Method("SetupStatisticsBox", &Register::SetupStatisticsBox);
+}
+
+}  // namespace tactix
