@@ -69,10 +69,10 @@ Decision::~Decision() = default;
 void Decision::ConnectWidgets() {
   const auto boxKeys = [this](const KeyPress& key) {
     if ((key.shift & CtrlKey) != 0) return;
-    if (const DecisionPlay* play = PlayOfLetter(key.Letter())) Choose(*play);
+    if (const DecisionPlay* play = RowOf(DecisionPlays, FindPlay(key.Letter()))) Choose(*play);
   };
   const auto buttonKeys = [this](const KeyPress& key) {
-    const DecisionPlay* play = PlayOfLetter(key.Letter());
+    const DecisionPlay* play = RowOf(DecisionPlays, FindPlay(key.Letter()));
     if (play && (Children.*play->button).Enabled()) Choose(*play);
   };
   Extender().OnKeyDown(boxKeys);
@@ -283,11 +283,8 @@ void Decision::AdviceClicked() {
   const Weak<Decision> self(this);
   Children.AdviceButton.Extender().BringToFront();
   Children.ManualPlayButtons.SetFocus();
-  for (const DecisionPlay& play : DecisionPlays) {
-    if (!self || play.code != advisedDecision_) continue;
-    blinker_.Flash((Children.*play.button).Handle());
-    break;
-  }
+  const DecisionPlay* const advised = RowOf(DecisionPlays, FindPlay(Coded<AdvicePossibilities>(advisedDecision_)));
+  if (self && advised) blinker_.Flash((Children.*advised->button).Handle());
   if (self) Events.AdviceRequested.Raise();
 }
 
@@ -319,7 +316,7 @@ void Decision::CheckThePrompt(bool on) {
 void Decision::PlayButtonMoved(const DecisionPlay& play, const MouseState& mouse) {
   if (!promptState_) return;
   const std::int16_t left = Variant((Children.*play.button).Left()).ToInteger();
-  SetDescriptionBoxState(play.code, mouse.shift, left, play.name);
+  SetDescriptionBoxState(static_cast<std::int16_t>(play.play.code), mouse.shift, left, play.play.name);
 }
 
 void Decision::SetDescriptionBoxState(std::int16_t /*buttonNumber*/, std::int16_t shiftKeys, std::int16_t leftPosition,
@@ -382,29 +379,28 @@ const PropertyTable& Decision::Properties() const {
 
 const MethodTable& Decision::Methods() const {
   using Self = Decision;
-  static const MethodTable table =
-      MethodTable()
-          .TakesVariant("SetupTheDecisionBox", &Self::SetupTheDecisionBox)
-          .TakesVariant("SetupDecisionBox", &Self::SetupDecisionBox)
-          .TakesVariant("SetupPlayButtons", &Self::SetupPlayButtons)
-          .TakesVariant("HereIsTheDCB", &Self::HereIsTheDCB)
-          .TakesVariant("DecodeThisDCB", &Self::DecodeThisDCB)
-          .Method("TheKelvoEditionIs", &Self::TheKelvoEditionIs)
-          .Method("CenterYourSelf", &Self::CenterYourSelf)
-          .Method("Show", &Self::Show)
-          .Method("ConvertFromPixelsToTwipsX", &Self::ConvertFromPixelsToTwipsX)
-          .Method("ConvertFromPixelsToTwipsY", &Self::ConvertFromPixelsToTwipsY)
-          .Method("ConvertFromTwipsToPixelsX", &Self::ConvertFromTwipsToPixelsX)
-          .Method("ConvertFromTwipsToPixelsY", &Self::ConvertFromTwipsToPixelsY)
-          .Method("DecisionMade", &Self::DecisionMade)
-          .Method("HandleAdviceConsiderations", &Self::HandleAdviceConsiderations)
-          .Method("FlashObject", &Self::FlashObject)
-          .Method("BlinkTime", &Self::BlinkTime)
-          .Method("DiddleThePromptShit", &Self::DiddleThePromptShit)
-          .Method("PredictTheHitCard", &Self::PredictTheHitCard)
-          .Method("DisplayHitcardSetting", &Self::DisplayHitcardSetting)
-          .Method("SetDescriptionBoxState", &Self::SetDescriptionBoxState)
-          .Method("ClearButtonDescriptionBox", &Self::ClearButtonDescriptionBox);
+  static const MethodTable table = MethodTable()
+                                       .TakesVariant("SetupTheDecisionBox", &Self::SetupTheDecisionBox)
+                                       .TakesVariant("SetupDecisionBox", &Self::SetupDecisionBox)
+                                       .TakesVariant("SetupPlayButtons", &Self::SetupPlayButtons)
+                                       .TakesVariant("HereIsTheDCB", &Self::HereIsTheDCB)
+                                       .TakesVariant("DecodeThisDCB", &Self::DecodeThisDCB)
+                                       .Method("TheKelvoEditionIs", &Self::TheKelvoEditionIs)
+                                       .Method("CenterYourSelf", &Self::CenterYourSelf)
+                                       .Method("Show", &Self::Show)
+                                       .Method("ConvertFromPixelsToTwipsX", &Self::ConvertFromPixelsToTwipsX)
+                                       .Method("ConvertFromPixelsToTwipsY", &Self::ConvertFromPixelsToTwipsY)
+                                       .Method("ConvertFromTwipsToPixelsX", &Self::ConvertFromTwipsToPixelsX)
+                                       .Method("ConvertFromTwipsToPixelsY", &Self::ConvertFromTwipsToPixelsY)
+                                       .Method("DecisionMade", &Self::DecisionMade)
+                                       .Method("HandleAdviceConsiderations", &Self::HandleAdviceConsiderations)
+                                       .Method("FlashObject", &Self::FlashObject)
+                                       .Method("BlinkTime", &Self::BlinkTime)
+                                       .Method("DiddleThePromptShit", &Self::DiddleThePromptShit)
+                                       .Method("PredictTheHitCard", &Self::PredictTheHitCard)
+                                       .Method("DisplayHitcardSetting", &Self::DisplayHitcardSetting)
+                                       .Method("SetDescriptionBoxState", &Self::SetDescriptionBoxState)
+                                       .Method("ClearButtonDescriptionBox", &Self::ClearButtonDescriptionBox);
   return table;
 }
 

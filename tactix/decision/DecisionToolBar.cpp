@@ -184,13 +184,13 @@ void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
   const bool restricted = block.Value(BlockField::ManualPlayerRestrictions).CountsAsTrue();
   const auto legal = [&](BlockField field) { return !restricted || block.Value(field).ToBoolean(); };
   const bool split = legal(BlockField::SplitIsValid);
-  if (self) Button("Split").Enabled(split);
+  if (self) Button(KeyOf(AdvicePossibilities::SplitAdvised)).Enabled(split);
   const bool surrender = legal(BlockField::SurrenderIsValid);
-  if (self) Button("Surrender").Enabled(surrender);
+  if (self) Button(KeyOf(AdvicePossibilities::SurrenderAdvised)).Enabled(surrender);
   // Both are read: an object that lacks the second fails even where the first allows the play.
   const bool hardDouble = legal(BlockField::HardDoubleIsValid);
   const bool softDouble = legal(BlockField::SoftDoubleIsValid);
-  if (self) Button("Double").Enabled(hardDouble || softDouble);
+  if (self) Button(KeyOf(AdvicePossibilities::DoubleAdvised)).Enabled(hardDouble || softDouble);
 }
 
 void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
@@ -207,7 +207,7 @@ void DecisionToolBarControl::Decode(const BlockReader& block) {
 
 void DecisionToolBarControl::ButtonWasClicked(const ToolButton& button) {
   for (const ToolBarPlay& play : ToolBarPlays) {
-    if (button.Key() == play.key) return (Events.*play.event).Raise();
+    if (button.Key() == play.play.name) return (Events.*play.event).Raise();
   }
   if (button.Key() == AdviceKey) return FlashTheAdvisedButton();
   if (button.Key() == StatisticsKey) return Events.StatsButtonWasPressed.Raise();
@@ -217,8 +217,8 @@ void DecisionToolBarControl::ButtonWasClicked(const ToolButton& button) {
 }
 
 void DecisionToolBarControl::FlashTheAdvisedButton() {
-  for (const ToolBarPlay& play : ToolBarPlays) {
-    if (play.code == advisedDecision_) return FlashObject(Button(play.key).Handle());
+  if (const Play* advised = FindPlay(Coded<AdvicePossibilities>(advisedDecision_))) {
+    FlashObject(Button(advised->name).Handle());
   }
 }
 

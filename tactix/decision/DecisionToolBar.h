@@ -60,7 +60,9 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void TensRatioButtonVisibility(Coded<ButtonStatusPossibilities> visibility) {
     Visibility(ButtonGroup::TensRatio, visibility);
   }
-  Coded<ButtonStatusPossibilities> DealerStrengthButtonsVisibility() const { return Visibility(ButtonGroup::DealerStrength); }
+  Coded<ButtonStatusPossibilities> DealerStrengthButtonsVisibility() const {
+    return Visibility(ButtonGroup::DealerStrength);
+  }
   void DealerStrengthButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
     Visibility(ButtonGroup::DealerStrength, visibility);
   }

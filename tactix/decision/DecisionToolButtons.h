@@ -5,16 +5,26 @@
 
 #include "tactix/decision/DecisionToolBar.h"
 #include "tactix/platform/widgets/ToolButton.h"
+#include "tactix/shared/Plays.h"
 
 namespace tactix {
 
+// For the rows of the plays.
+constexpr std::string_view KeyOf(AdvicePossibilities play) { return PlayOf(play).name; }
+constexpr std::string_view CaptionOf(AdvicePossibilities play) { return PlayOf(play).shortName; }
+
 /// The buttons of a decision toolbar, first to last.
 inline constexpr ToolButtonDesign DecisionToolButtons[] = {
-    {"Hit", "Hit", "HIT: Draw another Card", 1, ToolButtonStyle::Push},
-    {"Stand", "Stand", "STAND: Draw no more Cards", 2, ToolButtonStyle::Push},
-    {"Split", "Split", "SPLIT a PAIR of Cards", 3, ToolButtonStyle::Push},
-    {"Double", "Double", "DOUBLE Your Bet - Receive 1 Card", 4, ToolButtonStyle::Push},
-    {"Surrender", "Surr.", "SURRENDER: Forfeit 1/2 your Wager", 5, ToolButtonStyle::Push},
+    {KeyOf(AdvicePossibilities::HitAdvised), CaptionOf(AdvicePossibilities::HitAdvised), "HIT: Draw another Card", 1,
+     ToolButtonStyle::Push},
+    {KeyOf(AdvicePossibilities::StandAdvised), CaptionOf(AdvicePossibilities::StandAdvised),
+     "STAND: Draw no more Cards", 2, ToolButtonStyle::Push},
+    {KeyOf(AdvicePossibilities::SplitAdvised), CaptionOf(AdvicePossibilities::SplitAdvised), "SPLIT a PAIR of Cards", 3,
+     ToolButtonStyle::Push},
+    {KeyOf(AdvicePossibilities::DoubleAdvised), CaptionOf(AdvicePossibilities::DoubleAdvised),
+     "DOUBLE Your Bet - Receive 1 Card", 4, ToolButtonStyle::Push},
+    {KeyOf(AdvicePossibilities::SurrenderAdvised), CaptionOf(AdvicePossibilities::SurrenderAdvised),
+     "SURRENDER: Forfeit 1/2 your Wager", 5, ToolButtonStyle::Push},
     {"Advice", "Advice", "Ask Kelvo for Playing Advice", 6, ToolButtonStyle::Push},
     {"HitcardSeparator", "", "", 0, ToolButtonStyle::Separator},
     {"HitcardLow", "Low", "Hitcard Prediction: LOW", 7, ToolButtonStyle::Group},
@@ -41,18 +51,17 @@ inline constexpr std::string_view DecisionPictures[] = {"hit",        "stand",  
                                                         "surrender",  "advice",      "hit-card",      "hole-card",
                                                         "tens-ratio", "dealer-weak", "dealer-strong", "statistics"};
 
-/// A play: its code as in AdvicePossibilities, its button's key and its event.
+/// What a play is on a toolbar: its event. Its button's key is its name.
 struct ToolBarPlay {
-  std::int16_t code;
-  std::string_view key;
+  const Play& play;
   Event<> DecisionToolBarControl::EventSet::*event;
 };
 inline constexpr ToolBarPlay ToolBarPlays[] = {
-    {1, "Hit", &DecisionToolBarControl::EventSet::HitButtonWasPressed},
-    {2, "Stand", &DecisionToolBarControl::EventSet::StandButtonWasPressed},
-    {3, "Split", &DecisionToolBarControl::EventSet::SplitButtonWasPressed},
-    {4, "Double", &DecisionToolBarControl::EventSet::DoubleButtonWasPressed},
-    {5, "Surrender", &DecisionToolBarControl::EventSet::SurrenderButtonWasPressed},
+    {PlayOf(AdvicePossibilities::HitAdvised), &DecisionToolBarControl::EventSet::HitButtonWasPressed},
+    {PlayOf(AdvicePossibilities::StandAdvised), &DecisionToolBarControl::EventSet::StandButtonWasPressed},
+    {PlayOf(AdvicePossibilities::SplitAdvised), &DecisionToolBarControl::EventSet::SplitButtonWasPressed},
+    {PlayOf(AdvicePossibilities::DoubleAdvised), &DecisionToolBarControl::EventSet::DoubleButtonWasPressed},
+    {PlayOf(AdvicePossibilities::SurrenderAdvised), &DecisionToolBarControl::EventSet::SurrenderButtonWasPressed},
 };
 
 inline constexpr std::string_view AdviceKey = "Advice";

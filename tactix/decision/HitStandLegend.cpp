@@ -3,26 +3,30 @@
 #include <string>
 #include <string_view>
 
+#include "tactix/shared/Plays.h"
+
 namespace tactix {
 
 namespace {
 
 struct Line {
-  char letter;
+  const Play& play;
   std::string_view name;
-  std::string_view letterCaption;
-  std::string_view wordCaption;
   HitStandLegend::Option HitStandLegend::ChildWidgets::*option;
   Event<> HitStandLegend::EventSet::*event;
 };
 using Widgets = HitStandLegend::ChildWidgets;
 using LegendEvents = HitStandLegend::EventSet;
 constexpr Line Lines[] = {
-    {'H', "LegendOptionHit", "H -", "Hit", &Widgets::LegendOptionHit, &LegendEvents::HitWasSelected},
-    {'S', "LegendOptionStand", "S -", "Stand", &Widgets::LegendOptionStand, &LegendEvents::StandWasSelected},
-    {'P', "LegendOptionSplit", "P -", "Split", &Widgets::LegendOptionSplit, &LegendEvents::SplitWasSelected},
-    {'D', "LegendOptionDouble", "D -", "Double", &Widgets::LegendOptionDouble, &LegendEvents::DoubleWasSelected},
-    {'G', "LegendOptionSurrender", "G -", "Surrender", &Widgets::LegendOptionSurrender,
+    {PlayOf(AdvicePossibilities::HitAdvised), "LegendOptionHit", &Widgets::LegendOptionHit,
+     &LegendEvents::HitWasSelected},
+    {PlayOf(AdvicePossibilities::StandAdvised), "LegendOptionStand", &Widgets::LegendOptionStand,
+     &LegendEvents::StandWasSelected},
+    {PlayOf(AdvicePossibilities::SplitAdvised), "LegendOptionSplit", &Widgets::LegendOptionSplit,
+     &LegendEvents::SplitWasSelected},
+    {PlayOf(AdvicePossibilities::DoubleAdvised), "LegendOptionDouble", &Widgets::LegendOptionDouble,
+     &LegendEvents::DoubleWasSelected},
+    {PlayOf(AdvicePossibilities::SurrenderAdvised), "LegendOptionSurrender", &Widgets::LegendOptionSurrender,
      &LegendEvents::SurrenderWasSelected},
 };
 
@@ -45,9 +49,7 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
   // Around the panel, so that the whole legend is one stop for the Tab key.
   Extender().OnKeyDown([this](const KeyPress& key) {
     if ((key.shift & CtrlKey) != 0) return;
-    for (const Line& line : Lines) {
-      if (line.letter == key.Letter()) return (Events.*line.event).Raise();
-    }
+    if (const Line* line = RowOf(Lines, FindPlay(key.Letter()))) (Events.*line->event).Raise();
   });
 
   float top = Margin;
@@ -56,7 +58,8 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
     Event<>& event = Events.*line.event;
     float left = Margin;
     for (const auto& [label, caption, width] :
-         {std::tuple{&option[0], line.letterCaption, LetterWidth}, {&option[1], line.wordCaption, WordWidth}}) {
+         {std::tuple{&option[0], std::string{line.play.letter} + " -", LetterWidth},
+          {&option[1], std::string(line.play.name), WordWidth}}) {
       panel.Add(*label, line.name);
       label->Caption(caption);
       label->Font({"Comic Sans MS", SizeOfFont});

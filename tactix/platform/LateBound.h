@@ -9,9 +9,22 @@
 
 namespace tactix {
 
-/// What a property, an argument or a result is made of. A ColorNumber is a Long that means a colour; Variant takes any value; a
-/// method without a result has None.
-enum class ValueKind { None, Boolean, Integer, Long, Single, Double, Text, Font, ColorNumber, Enumeration, Object, Variant };
+/// What a property, an argument or a result is made of. A ColorNumber is a Long that means a colour; Variant takes any
+/// value; a method without a result has None.
+enum class ValueKind {
+  None,
+  Boolean,
+  Integer,
+  Long,
+  Single,
+  Double,
+  Text,
+  Font,
+  ColorNumber,
+  Enumeration,
+  Object,
+  Variant
+};
 
 struct ValueType {
   ValueKind kind = ValueKind::None;

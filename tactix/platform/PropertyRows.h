@@ -51,8 +51,11 @@ class PropertyRows {
   /// A public data member.
   template <class C, class T>
   Derived& Field(std::string_view name, T C::*field) {
-    return Add({std::string(name), LateBound<Plain<T>>::Type,
-                GetBy([field](C& self) { return self.*field; }), Into(field), {}});
+    return Add({std::string(name),
+                LateBound<Plain<T>>::Type,
+                GetBy([field](C& self) { return self.*field; }),
+                Into(field),
+                {}});
   }
   /// A property that no pair of members stands for.
   Derived& Add(Row row) {
@@ -65,7 +68,8 @@ class PropertyRows {
     return static_cast<Derived&>(*this);
   }
 
-  // What rows are made of where a pair of members does not say it: `[](C& self) { … }` and `[](C& self, T value) { … }`.
+  // What rows are made of where a pair of members does not say it: `[](C& self) { … }` and `[](C& self, T value) { …
+  // }`.
   template <class Function>
   static Getter GetBy(Function get) {
     return GetterOf(get, &Function::operator());

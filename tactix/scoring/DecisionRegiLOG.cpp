@@ -4,7 +4,6 @@
 #include <string_view>
 #include "tactix/scoring/RegisterMembers.h"
 
-
 namespace tactix {
 
 namespace {

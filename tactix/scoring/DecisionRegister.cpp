@@ -6,6 +6,7 @@
 
 #include "tactix/platform/NumberText.h"
 #include "tactix/scoring/RegisterMembers.h"
+#include "tactix/shared/Plays.h"
 
 namespace tactix {
 
@@ -43,8 +44,6 @@ constexpr Arrangement WithBreaks = {110, 165, 500, 560};
 constexpr Arrangement WithoutBreaks = {195, 250, 700, 760};
 
 constexpr std::string_view NoVerdict = "______";
-/// By the number of the verdict, from 1 on.
-constexpr std::string_view Verdicts[] = {"Hit", "Stand", "Split", "Double", "Surr."};
 
 struct CountLine {
   Label Widgets::*caption;
@@ -117,10 +116,10 @@ void DecisionRegister::Resized() {
 }
 
 void DecisionRegister::AfterAdvice(Coded<AfterAdvicePossibilities> verdict) {
-  const std::int32_t number = verdict.Value();
-  const bool isPlay = number >= 1 && number <= static_cast<std::int32_t>(std::size(Verdicts));
+  // The verdicts that name a play have its code.
+  const Play* const play = FindPlay(Coded<AdvicePossibilities>(verdict.Value()));
   Label& label = Children.labelAfterAdvice[1];
-  label.Caption(isPlay ? Verdicts[number - 1] : NoVerdict);
+  label.Caption(play ? play->shortName : NoVerdict);
   label.Visible(true);
 }
 

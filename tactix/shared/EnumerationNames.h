@@ -17,10 +17,18 @@ constexpr std::string_view NameOfEnumeration(AfterAdvicePossibilities) { return 
 constexpr std::string_view NameOfEnumeration(DecisionBARAlignment) { return "DecisionBARAlignment"; }
 constexpr std::string_view NameOfEnumeration(DecisionBARWidthPossibilities) { return "DecisionBARWidthPossibilities"; }
 constexpr std::string_view NameOfEnumeration(ButtonStatusPossibilities) { return "ButtonStatusPossibilities"; }
-constexpr std::string_view NameOfEnumeration(DecisionBARHitcardPossibilities) { return "DecisionBARHitcardPossibilities"; }
-constexpr std::string_view NameOfEnumeration(DecisionBARHolecardPossibilities) { return "DecisionBARHolecardPossibilities"; }
-constexpr std::string_view NameOfEnumeration(DecisionBARTensRatioPossibilities) { return "DecisionBARTensRatioPossibilities"; }
-constexpr std::string_view NameOfEnumeration(DecisionBARDealerHandPossibilities) { return "DecisionBARDealerHandPossibilities"; }
+constexpr std::string_view NameOfEnumeration(DecisionBARHitcardPossibilities) {
+  return "DecisionBARHitcardPossibilities";
+}
+constexpr std::string_view NameOfEnumeration(DecisionBARHolecardPossibilities) {
+  return "DecisionBARHolecardPossibilities";
+}
+constexpr std::string_view NameOfEnumeration(DecisionBARTensRatioPossibilities) {
+  return "DecisionBARTensRatioPossibilities";
+}
+constexpr std::string_view NameOfEnumeration(DecisionBARDealerHandPossibilities) {
+  return "DecisionBARDealerHandPossibilities";
+}
 constexpr std::string_view NameOfEnumeration(TypeOfStrategyControl) { return "TypeOfStrategyControl"; }
 constexpr std::string_view NameOfEnumeration(TypeOfBettingStrategyControl) { return "TypeOfBettingStrategyControl"; }
 constexpr std::string_view NameOfEnumeration(TypeOfStrategyMarquixControl) { return "TypeOfStrategyMarquixControl"; }
@@ -29,7 +37,9 @@ constexpr std::string_view NameOfEnumeration(BettingStrategyListFormats) { retur
 constexpr std::string_view NameOfEnumeration(CountStrategyPossibilities) { return "CountStrategyPossibilities"; }
 constexpr std::string_view NameOfEnumeration(SpinCounterPossibilities) { return "SpinCounterPossibilities"; }
 constexpr std::string_view NameOfEnumeration(CardClumpValuePossibilities) { return "CardClumpValuePossibilities"; }
-constexpr std::string_view NameOfEnumeration(theClumpCardValuePossibilities) { return "theClumpCardValuePossibilities"; }
+constexpr std::string_view NameOfEnumeration(theClumpCardValuePossibilities) {
+  return "theClumpCardValuePossibilities";
+}
 constexpr std::string_view NameOfEnumeration(theCardValuePossibilities) { return "theCardValuePossibilities"; }
 constexpr std::string_view NameOfEnumeration(CardPointValuePossibilities) { return "CardPointValuePossibilities"; }
 constexpr std::string_view NameOfEnumeration(UnitsSelectedPosibilities) { return "UnitsSelectedPosibilities"; }

@@ -9,9 +9,9 @@ namespace {
 template <auto field>
 void AddField(ObjectProperties& table, const char* name) {
   using T = std::remove_cvref_t<decltype(DecisionBARResponseObject().*field)>;
-  table.Add({name, LateBound<T>::Type, ObjectProperties::GetBy([](ResponseBlock& block) {
-               return block.Predictions.*field;
-             }),
+  table.Add({name,
+             LateBound<T>::Type,
+             ObjectProperties::GetBy([](ResponseBlock& block) { return block.Predictions.*field; }),
              ObjectProperties::SetBy([](ResponseBlock& block, const T& value) { block.Predictions.*field = value; }),
              {}});
 }

@@ -50,7 +50,8 @@ void BetStrategyList::Report(std::int32_t row) {
 }
 
 const MethodTable& BetStrategyList::Methods() const {
-  static const MethodTable table = CommonMethods().Method("InputBettingStrategyDescriptions", &BetStrategyList::InputBettingStrategyDescriptions);
+  static const MethodTable table =
+      CommonMethods().Method("InputBettingStrategyDescriptions", &BetStrategyList::InputBettingStrategyDescriptions);
   return table;
 }
 

@@ -142,10 +142,9 @@ const PropertyTable& CountStrategyList::Properties() const {
     PropertyTable rows;
     rows.OnFailedWrite(OnFailure::Report)
         .Property(CountStrategyName, &Self::CountStrategy, &Self::CountStrategy)
-        .Saved(DefaultSystem, {.value = PropertyTable::GetBy([](Self& self) { return self.ListIndex(); }),
-                               .restore = PropertyTable::SetBy([](Self& self, std::int16_t system) {
-                                 self.Select(system);
-                               })});
+        .Saved(DefaultSystem,
+               {.value = PropertyTable::GetBy([](Self& self) { return self.ListIndex(); }),
+                .restore = PropertyTable::SetBy([](Self& self, std::int16_t system) { self.Select(system); })});
     SavedRow::BackColor(rows);
     SavedRow::ForeColor(rows);
     SavedRow::ToolTipText(rows);
@@ -161,10 +160,9 @@ const PropertyTable& CountStrategyList::Properties() const {
 
 const MethodTable& CountStrategyList::Methods() const {
   using Self = CountStrategyList;
-  static const MethodTable table =
-      CommonMethods()
-          .Method("InputCountStrategyDescriptions", &Self::InputCountStrategyDescriptions)
-          .Method("CountValue", &Self::CountValue);
+  static const MethodTable table = CommonMethods()
+                                       .Method("InputCountStrategyDescriptions", &Self::InputCountStrategyDescriptions)
+                                       .Method("CountValue", &Self::CountValue);
   return table;
 }
 

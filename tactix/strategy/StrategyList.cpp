@@ -58,7 +58,8 @@ void StrategyList::FillRow(std::int16_t strategy) {
 }
 
 const MethodTable& StrategyList::Methods() const {
-  static const MethodTable table = CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyList::InputPlayingStrategyDescriptions);
+  static const MethodTable table =
+      CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyList::InputPlayingStrategyDescriptions);
   return table;
 }
 

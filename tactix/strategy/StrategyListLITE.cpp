@@ -41,7 +41,8 @@ const PropertyTable& StrategyListLITE::Properties() const {
 }
 
 const MethodTable& StrategyListLITE::Methods() const {
-  static const MethodTable table = CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyListLITE::InputPlayingStrategyDescriptions);
+  static const MethodTable table =
+      CommonMethods().Method("InputPlayingStrategyDescriptions", &StrategyListLITE::InputPlayingStrategyDescriptions);
   return table;
 }
 

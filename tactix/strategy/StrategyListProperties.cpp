@@ -72,17 +72,15 @@ void StrategyListControl::SetText(std::string_view text, std::string_view proper
 void StrategyListControl::SavedRow::BackColor(PropertyTable& table) {
   table.Property(BackColorName, &List::BackColor, &List::BackColor)
       .IsAColor()
-      .Saved(WindowColor, {.restore = PropertyTable::SetBy([](List& list, Color color) {
-                             list.Box().BackColor(color);
-                           })});
+      .Saved(WindowColor,
+             {.restore = PropertyTable::SetBy([](List& list, Color color) { list.Box().BackColor(color); })});
 }
 
 void StrategyListControl::SavedRow::ForeColor(PropertyTable& table) {
   table.Property(ForeColorName, &List::ForeColor, &List::ForeColor)
       .IsAColor()
-      .Saved(WindowTextColor, {.restore = PropertyTable::SetBy([](List& list, Color color) {
-                                 list.Box().ForeColor(color);
-                               })});
+      .Saved(WindowTextColor,
+             {.restore = PropertyTable::SetBy([](List& list, Color color) { list.Box().ForeColor(color); })});
 }
 
 void StrategyListControl::SavedRow::Enabled(PropertyTable& table) {
@@ -92,9 +90,9 @@ void StrategyListControl::SavedRow::Enabled(PropertyTable& table) {
 
 void StrategyListControl::SavedRow::Font(PropertyTable& table) {
   table.Property(FontName, &List::Font, &List::Font)
-      .SavedWithDefault(AmbientFontOf, {.restore = PropertyTable::SetBy([](List& list, const tactix::Font& font) {
-                                          list.Box().Font(font);
-                                        })});
+      .SavedWithDefault(
+          AmbientFontOf,
+          {.restore = PropertyTable::SetBy([](List& list, const tactix::Font& font) { list.Box().Font(font); })});
 }
 
 void StrategyListControl::SavedRow::Text(PropertyTable& table) {
@@ -107,13 +105,13 @@ void StrategyListControl::SavedRow::Text(PropertyTable& table) {
 
 void StrategyListControl::SavedRow::ToolTipText(PropertyTable& table) {
   table.Property(ToolTipTextName, &List::ToolTipText, &List::ToolTipText)
-      .Saved("", {.restore = PropertyTable::SetBy([](List& list, const std::string& text) {
-                    list.Box().ToolTipText(text);
-                  })});
+      .Saved("", {.restore =
+                      PropertyTable::SetBy([](List& list, const std::string& text) { list.Box().ToolTipText(text); })});
 }
 
 void StrategyListControl::SavedRow::DefaultContent(PropertyTable& table) {
-  table.Property(DefaultContentName, &List::DefaultContent, &List::DefaultContent).Saved("", {.ways = SavedWays::SavedOnly});
+  table.Property(DefaultContentName, &List::DefaultContent, &List::DefaultContent)
+      .Saved("", {.ways = SavedWays::SavedOnly});
 }
 
 void StrategyListControl::AddTheOtherProperties(PropertyTable& table) {
