@@ -11,7 +11,7 @@ inline constexpr Color WindowColor = static_cast<Color>(0x80000005);
 inline constexpr Color WindowTextColor = static_cast<Color>(0x80000008);
 inline constexpr Color ButtonFaceColor = static_cast<Color>(0x8000000F);
 
-/// True where the front end's palette decides; the three parts below then mean nothing.
+/// True for a system colour: the front end's palette decides what it is, and the three parts below mean nothing.
 constexpr bool IsSystemColor(Color color) { return color < 0; }
 
 /// The parts of a colour, 0 to 255.

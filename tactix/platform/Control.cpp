@@ -6,7 +6,7 @@ namespace tactix {
 
 namespace {
 
-/// Calls `visit` for the controls directly inside a widget's control, as long as the widget exists.
+/// Calls `visit` for each control directly inside a widget's control; stops when a visit has destroyed the widget.
 template <class Visit>
 void ForEachNested(Widget& widget, const Visit& visit) {
   const Weak<Widget> self(widget);

@@ -23,8 +23,8 @@ class TACTIX_EXPORT Control : public Trackable {
   explicit Control(Site& site);
   virtual ~Control();
 
-  /// The control as its container sees it. It has its extender, it is not one: a `Visible` or `Enabled` of its own
-  /// hides nothing.
+  /// The control as its container sees it: its place there, and whether it is shown and enabled. A `Visible` or
+  /// `Enabled` property of the control's own is something else.
   tactix::Extender& Extender() { return extender_; }
   const tactix::Extender& Extender() const { return extender_; }
   Site& ItsSite() const { return site_; }
@@ -35,13 +35,13 @@ class TACTIX_EXPORT Control : public Trackable {
   virtual void WriteProperties(PropertyBag& bag);
   /// The extender's size has changed.
   virtual void Resized() {}
-  /// The control is shown for the first time, or again. Reaches the controls inside this one.
+  /// The control is shown for the first time, or again. Passed on to the controls inside this one.
   virtual void Displayed();
   /// The keyboard focus has come to the control from outside it.
   virtual void GotFocus() {}
-  /// The container's font, colours or mode have changed. Reaches the controls inside this one.
+  /// The container's font, colours or mode have changed. Passed on to the controls inside this one.
   virtual void AmbientChanged();
-  /// The control is about to end. Reaches the controls inside this one.
+  /// The control is about to end. Passed on to the controls inside this one.
   virtual void Terminated();
 
   /// A late-bound object with the control's properties and methods, then its extender's; fails with 91 once the control

@@ -24,7 +24,7 @@ class TACTIX_EXPORT Error : public std::exception {
     NoSuchMember = 438,
   };
 
-  /// An empty description is replaced by the code's own; the source stays as given.
+  /// An empty description is replaced by the code's own text.
   explicit Error(std::int32_t code, std::string description = {}, std::string source = {});
   Error(const Error&);
   Error(Error&&) noexcept;
@@ -33,7 +33,7 @@ class TACTIX_EXPORT Error : public std::exception {
   ~Error() override;
 
   std::int32_t Code() const noexcept { return code_; }
-  /// Where the error comes from; empty unless whoever raised it said so.
+  /// Where the error comes from; empty unless given to the constructor.
   const std::string& Source() const noexcept { return source_; }
   const std::string& Description() const noexcept { return description_; }
   const char* what() const noexcept override;

@@ -60,9 +60,11 @@ class Connection {
   Connection() = default;
   Connection(detail::HandlerList* list, std::uint64_t id) : list_(list), id_(id) {}
 
-  /// Takes the handler off. Does nothing when it is off already or the event is gone. A handler may take itself off.
+  /// Disconnects the handler. Does nothing if it is disconnected already or the event is gone. A handler may disconnect
+  /// itself.
   void Disconnect() {
-    // The handler that goes may hold the last reference to what owns this connection.
+    // Disconnecting destroys the handler, and that may destroy the owner of this connection: list_ is not touched after
+    // it.
     const detail::ListReference list = std::exchange(list_, {});
     if (list.Get()) list.Get()->Disconnect(id_);
   }
@@ -73,7 +75,7 @@ class Connection {
   std::uint64_t id_ = 0;
 };
 
-/// A connection that is taken off when it goes out of scope.
+/// A connection that disconnects its handler when it goes out of scope.
 class ScopedConnection {
  public:
   ScopedConnection() = default;
@@ -95,8 +97,8 @@ class ScopedConnection {
 };
 
 /// A numbered, named event. Handlers run in order of connection. A handler may connect (the new one runs from the next
-/// raise on), disconnect, raise again, or destroy the event together with the control that owns it: the handlers
-/// after it are then not run. An error that a handler throws ends the raise and reaches whoever raised.
+/// raise on), disconnect, raise again, or destroy the event together with the control that owns it: the handlers after
+/// it are then not run. An error that a handler throws ends the raise and reaches the caller of Raise.
 template <class... Args>
 class Event {
  public:
@@ -192,10 +194,10 @@ class Event {
     friend class Run;
     struct Entry {
       Handler handler;
-      std::uint64_t id;  // 0: taken off
+      std::uint64_t id;  // 0: disconnected
     };
 
-    // What a dying handler holds may reach back here, so handlers die after the list is in order again.
+    // Destroying a handler may run code that uses this list again, so the list is put in order first.
     void DropAll() { const auto dead = std::exchange(entries_, {}); }
     void Sweep() {
       swept_ = depth_ != 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Marks what a shared build of the library lets out. A static build defines TACTIX_STATIC for itself and its users.
+// Marks what a shared build of the library exports. A static build defines TACTIX_STATIC for itself and its users.
 #if defined(TACTIX_STATIC)
 #define TACTIX_EXPORT
 #elif defined(_WIN32)

@@ -12,9 +12,9 @@ class TACTIX_EXPORT FocusKeeper : public Trackable {
  public:
   Widget* Focus() const { return focus_.Get(); }
 
-  /// The focus is now on the widget, or on none with null. Each control that it enters from outside hears GotFocus,
-  /// the outermost first, as long as the focus stays there. Handlers may move it on, and destroy any of them or the
-  /// keeper.
+  /// The focus has moved to the widget, or to none with null. Each control that it has entered from outside gets
+  /// GotFocus, the outermost first, until a handler moves the focus elsewhere. Handlers may also destroy the controls
+  /// and this keeper.
   void MoveTo(Widget* widget);
 
  private:

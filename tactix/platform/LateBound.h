@@ -9,7 +9,7 @@
 
 namespace tactix {
 
-/// What a property, an argument or a result is made of. A ColorNumber is a Long that means a colour; Variant takes any
+/// The type of a property, an argument or a result. A ColorNumber is a Long that means a colour; Variant takes any
 /// value; a method without a result has None.
 enum class ValueKind {
   None,
@@ -34,8 +34,8 @@ struct ValueType {
   bool operator==(const ValueType&) const = default;
 };
 
-/// How a C++ type takes part in late binding: its Type, and its way From a variant and To one. From fails as the
-/// variant's conversion does. Specialized for every type that members of late-bound objects have.
+/// How a C++ type is used in late binding: its Type, and the conversions From a variant and To one. From fails with the
+/// error of the variant's own conversion. Specialized for every type that members of late-bound objects have.
 template <class T>
 struct LateBound;
 
@@ -81,7 +81,7 @@ struct LateBound<std::string> {
   static Variant To(const std::string& value) { return value; }
 };
 
-/// A text that is passed on: what a variant converts to lives as long as the call.
+/// For an argument. From returns a std::string, which the caller keeps for as long as the view is used.
 template <>
 struct LateBound<std::string_view> : LateBound<std::string> {
   static Variant To(std::string_view value) { return value; }
@@ -108,7 +108,7 @@ struct LateBound<Variant> {
   static Variant To(const Variant& value) { return value; }
 };
 
-/// An argument that may be left out: Empty is none.
+/// An argument that may be left out; Empty stands for one that is.
 template <class T>
 struct LateBound<std::optional<T>> {
   static constexpr ValueType Type = LateBound<T>::Type;

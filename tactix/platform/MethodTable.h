@@ -20,21 +20,21 @@
 
 namespace tactix {
 
-/// The methods of a class by name, one row each, for late-bound calls and type information. Base is what a row is given
-/// to work on.
+/// The methods of a class by name, one row each, for late-bound calls and type information. Base is the class whose
+/// objects the methods are called on.
 template <class Base>
 class MethodRows {
  public:
   struct Argument {
     ValueType type;
     bool isWritten = false;   ///< the method may write to it
-    bool isOptional = false;  ///< may be left out, with those behind it
+    bool isOptional = false;  ///< may be left out, together with all after it
   };
   struct Row {
     std::string name;
     ValueType result;
     std::vector<Argument> arguments;
-    /// Converts the arguments, calls, and writes back to those that the method may write to.
+    /// Converts the arguments, calls the method, and stores what it has written to its arguments in the span.
     std::function<Variant(Base&, std::span<Variant>)> call;
   };
 
@@ -46,7 +46,7 @@ class MethodRows {
   MethodRows& Method(std::string_view name, R (C::*method)(A...) const) {
     return Add<C, R, A...>(name, method);
   }
-  /// Of several overloads the one that takes a variant.
+  /// Picks the overload whose first argument is a variant.
   template <class C, class... A>
   MethodRows& TakesVariant(std::string_view name, void (C::*method)(const Variant&, A...)) {
     return Add<C, void, const Variant&, A...>(name, method);
@@ -93,7 +93,7 @@ class MethodRows {
 
   template <class C, class R, class... A, class M, std::size_t... I>
   static Variant CallWith(M method, Base& base, std::span<Variant> given, std::index_sequence<I...>) {
-    // Converting may run code of the host's, which may destroy what is called.
+    // Converting an argument may run host code, which may destroy the object.
     const auto self = WatchOf(base);
     std::tuple<decltype(LateBound<Plain<A>>::From(Variant()))...> values{
         LateBound<Plain<A>>::From(I < given.size() ? given[I] : Variant())...};

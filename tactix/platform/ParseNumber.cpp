@@ -32,7 +32,8 @@ double ParsePattern(std::string_view digits) {
   return static_cast<std::int32_t>(pattern);
 }
 
-/// Digits and a power of ten, as text without a decimal point: strtod then reads it alike in every locale.
+/// Collects digits and a power of ten. They go to strtod without a decimal point, which it would expect as the locale
+/// writes it.
 class ScaledDigits {
  public:
   void AddWhole(char digit) {
@@ -48,7 +49,7 @@ class ScaledDigits {
     char text[MostDigits + 32];
     char* end = std::copy(digits_, digits_ + count_, text);
     std::int64_t exponent = exponent_;
-    if (inexact_) {  // keeps what was left out from passing for a tie
+    if (inexact_) {  // one more digit, so that what was left out does not look like an exact tie
       *end++ = '1';
       --exponent;
     }

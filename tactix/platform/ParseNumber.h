@@ -4,8 +4,9 @@
 
 namespace tactix {
 
-/// The number that a text spells: sign, digits, "." and exponent, or a 32-bit pattern behind "&H". Blanks around it do
-/// not count. Fails with 13 where it spells none, with 6 where it is beyond a double's range or over 32 bits.
+/// The number that a text spells: sign, digits, "." and exponent, or up to 32 bits in hexadecimal after "&H". Blanks
+/// around it are ignored. Fails with 13 when the text is no number, with 6 when the number is beyond a double's range
+/// or has more than 32 bits.
 double ParseNumber(std::string_view text);
 
 }  // namespace tactix

@@ -15,8 +15,8 @@
 
 namespace tactix {
 
-/// The properties of a class by name, one row each: what controls and late-bound objects have in common. Base is what
-/// a row is given to work on, Derived the table itself.
+/// The properties of a class by name, one row each: what controls and late-bound objects have in common. Base is the
+/// class whose objects the rows read and write, Derived the table class, which the functions return for chaining.
 template <class Derived, class Base>
 class PropertyRows {
  public:
@@ -35,7 +35,7 @@ class PropertyRows {
   Derived& Property(std::string_view name, G (C::*get)() const, void (C::*set)(S)) {
     return Add({std::string(name), LateBound<Plain<G>>::Type, GetterOf(get), SetterOf(set), {}});
   }
-  /// For a getter with a side effect.
+  /// For a getter that is not const, because it has a side effect.
   template <class C, class G, class S>
   Derived& Property(std::string_view name, G (C::*get)(), void (C::*set)(S)) {
     return Add({std::string(name), LateBound<Plain<G>>::Type, GetterOf(get), SetterOf(set), {}});
@@ -57,7 +57,7 @@ class PropertyRows {
                 Into(field),
                 {}});
   }
-  /// A property that no pair of members stands for.
+  /// A property that is not simply a pair of member functions. GetBy, SetBy and Into make its getter and setter.
   Derived& Add(Row row) {
     rows_.push_back(std::move(row));
     return static_cast<Derived&>(*this);
@@ -68,8 +68,7 @@ class PropertyRows {
     return static_cast<Derived&>(*this);
   }
 
-  // What rows are made of where a pair of members does not say it: `[](C& self) { … }` and `[](C& self, T value) { …
-  // }`.
+  // Make getters and setters from lambdas, `[](C& self) { ... }` and `[](C& self, T value) { ... }`, or from members.
   template <class Function>
   static Getter GetBy(Function get) {
     return GetterOf(get, &Function::operator());
@@ -82,7 +81,7 @@ class PropertyRows {
   static Setter SetBy(void (C::*set)(S)) {
     return SetterOf(set);
   }
-  /// Stores the value as it is, past what a setter would do.
+  /// Stores the value in the data member, without what the property's setter would check or notify.
   template <class C, class T>
   static Setter Into(T C::*member) {
     return SetBy([member](C& self, const T& value) { self.*member = value; });
@@ -130,7 +129,7 @@ class PropertyRows {
     };
   }
 
-  /// Converts, then sets. The conversion may run code of the host's, and that may destroy what was to be set.
+  /// Converts, then sets. The conversion may run host code that destroys the object; then nothing is set.
   template <class T, class Set>
   static void Convert(Base& base, const Variant& value, const Set& set) {
     if constexpr (std::derived_from<Base, Trackable>) {

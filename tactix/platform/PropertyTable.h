@@ -12,22 +12,23 @@
 
 namespace tactix {
 
-/// What happens where a saved property cannot be read or written: the next one has its turn, the error ends it and
-/// reaches the container, or (for reading) the property takes its default.
+/// What happens when a saved property cannot be read or written. PassOver goes on with the next one; Report stops, and
+/// the error reaches the container; TakeTheDefault (for reading) sets the property to its default.
 enum class OnFailure { PassOver, Report, TakeTheDefault };
 
+/// Whether a property is both saved and restored, or only one of the two.
 enum class SavedWays { BothWays, SavedOnly, RestoredOnly };
 
-/// What is not as a saved property's own row says.
+/// How saving a property differs from reading and setting it.
 struct SavedDifferently {
   SavedWays ways = SavedWays::BothWays;
-  /// Its name in saved forms and notices.
+  /// Its name in saved forms and notices; empty: the property's own.
   std::string_view name = {};
-  /// What is saved, where that is not what the property reads.
+  /// Gives the value to save; empty: the property is read.
   std::function<Variant(Control&)> value = nullptr;
-  /// How it comes back, where that is not by setting the property.
+  /// Takes the restored value; empty: the property is set.
   std::function<void(Control&, const Variant&)> restore = nullptr;
-  /// Saved also where it equals its default.
+  /// Saved even when it equals its default.
   bool always = false;
 };
 
@@ -43,12 +44,12 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
     bool always = false;
   };
 
-  /// The property added last is saved, with this default. Properties are saved and restored in the order in which this
-  /// was said of them.
+  /// Makes the property added last a saved one, with this default. Properties are saved and restored in the order of
+  /// these calls.
   PropertyTable& Saved(Variant defaultValue, SavedDifferently differently = {});
   /// The same with a default that depends on the control.
   PropertyTable& SavedWithDefault(Getter defaultValue, SavedDifferently differently = {});
-  /// Something saved or read back that is no property.
+  /// Saves or restores something that is not a property.
   PropertyTable& SavedBeside(SavedRow row);
 
   /// A default that is the same for all controls of the class.
@@ -60,7 +61,7 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
   /// In the order in which they are saved and restored.
   const std::vector<SavedRow>& SavedRows() const { return saved_; }
 
-  /// What Control::ReadProperties and WriteProperties do. The bag may destroy the control, which ends it.
+  /// What Control::ReadProperties and WriteProperties do. They stop if the bag destroys the control.
   void Restore(Control& control, PropertyBag& bag) const;
   void Save(Control& control, PropertyBag& bag) const;
 

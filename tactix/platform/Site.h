@@ -24,7 +24,7 @@ class TACTIX_EXPORT Site : public Trackable {
  public:
   virtual ~Site() = default;
 
-  /// A control announces itself when it is made and when it ends.
+  /// Called by each control when it is constructed and when it is destroyed.
   virtual void Attach(Control&) {}
   virtual void Detach(Control&) {}
 
@@ -35,7 +35,7 @@ class TACTIX_EXPORT Site : public Trackable {
   /// True when the host runs, false in a form designer.
   virtual bool UserMode() const = 0;
 
-  /// A persisted property has changed under this name.
+  /// A saved property has changed; the name is the one that it is saved under.
   virtual void PropertyChanged(std::string_view name) = 0;
 
   /// Starts or restarts the timer's ticks at its interval; the site calls Timer::Elapse until it is stopped.
@@ -60,10 +60,11 @@ class TACTIX_EXPORT Site : public Trackable {
   /// The widget that has the keyboard focus, or null.
   virtual Widget* Focus() const = 0;
 
-  /// The button has become its window's default button; the site takes the flag from every other one.
+  /// The button has become its window's default button; the site clears that flag of every other button.
   virtual void MadeDefault(PushButton& button) = 0;
 
-  /// An error that a user's action, not a host's call, has raised ends here: it must not unwind through a toolkit.
+  /// Gets the errors that come out of a user's actions and timer ticks, which must not unwind through a toolkit. Errors
+  /// of a host's call go to that host instead.
   virtual void Unhandled(const Error& error) = 0;
 
   /// The site of the outermost control.

@@ -13,8 +13,8 @@ class ObjectProperties : public PropertyRows<ObjectProperties, Object> {};
 /// The methods of a class of late-bound objects.
 using ObjectMethods = MethodRows<Object>;
 
-/// A late-bound object whose members stand in tables: the easy way to an edition, a collection or a block of a host's
-/// own.
+/// A late-bound object whose members stand in tables: the easy way for a host to write an edition, a collection or a
+/// block of its own.
 ///
 ///   class Seats : public tactix::TableObject {
 ///    public:

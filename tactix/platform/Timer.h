@@ -27,7 +27,7 @@ class TACTIX_EXPORT Timer final : public Trackable {
 
   Event<> Tick{0, "Tick"};
 
-  /// For the site: the interval has passed. An error of a handler ends at the site.
+  /// For the site: the interval has passed. An error thrown by a handler goes to the site's Unhandled.
   void Elapse();
 
  private:

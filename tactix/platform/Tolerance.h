@@ -4,8 +4,7 @@
 
 namespace tactix {
 
-/// Runs one step and passes over its error, so that the next step runs: a saved property that cannot be read stays as
-/// it is, one that cannot be written is left out, a quiet fill ends where it stands.
+/// Runs one step and ignores its error, so that the caller goes on with its next step.
 template <class Step>
 void IgnoringErrors(Step&& step) {
   try {
@@ -14,8 +13,8 @@ void IgnoringErrors(Step&& step) {
   }
 }
 
-/// Runs one statement and passes over "object not set", so that the next statement runs. Every other error goes on. A
-/// routine that resumes after 91 wraps each of its statements, not itself.
+/// Runs one statement and ignores the error "object not set" (91); every other error reaches the caller. Wrap each
+/// statement of a routine that must go on after 91, not the routine as a whole.
 template <class Statement>
 void PassingOverObjectNotSet(Statement&& statement) {
   try {

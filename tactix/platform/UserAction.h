@@ -8,8 +8,8 @@
 
 namespace tactix {
 
-/// Runs what a user's action or a timer sets off; an error that comes out of it goes to the outermost site, if that
-/// still exists.
+/// Runs what a user's action or a timer sets off. An error that comes out of it goes to the outermost site's Unhandled,
+/// if the site still exists; any other exception arrives there as error 5.
 template <class Action>
 void RunUserAction(Site& site, Action&& action) {
   const Weak<Site> outermost(site.Outermost());

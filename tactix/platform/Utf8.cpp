@@ -4,7 +4,8 @@ namespace tactix {
 
 namespace {
 
-/// What may follow a first byte. The second byte's range keeps out overlong forms, surrogates and codes past 10FFFF.
+/// A range of first bytes, with the length of their characters and the range of second bytes, which keeps out overlong
+/// forms, surrogates and codes past 10FFFF.
 struct LeadByte {
   unsigned first;
   unsigned last;

@@ -8,7 +8,7 @@
 
 namespace tactix {
 
-/// What stands for a character that cannot be.
+/// Stands for bytes or codes that are no character.
 inline constexpr char32_t ReplacementCharacter = 0xFFFD;
 
 /// Whether a code is one that Unicode text may hold: 0 ... 10FFFF without the surrogates.
@@ -20,8 +20,8 @@ struct Utf8Character {
   bool wellFormed = false;
 };
 
-/// The first character of a text that is not empty. Malformed bytes read as one ReplacementCharacter for each longest
-/// piece that could have begun a character, and for each other byte.
+/// The first character of a text that is not empty. Malformed text reads as ReplacementCharacter: one for each longest
+/// run of bytes that begins a character but does not complete it, and one for each other byte.
 TACTIX_EXPORT Utf8Character DecodeUtf8(std::string_view text);
 /// Adds a character; a code that is no Unicode scalar value becomes ReplacementCharacter.
 TACTIX_EXPORT void AppendUtf8(std::string& text, char32_t code);

@@ -26,11 +26,11 @@ template <class Whole>
 Whole ToWhole(double value) {
   const double rounded = RoundHalfToEven(value);
   const bool fits = rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max();
-  if (!fits) throw Error(Error::Overflow);  // NaN too
+  if (!fits) throw Error(Error::Overflow);  // true for NaN, too
   return static_cast<Whole>(rounded);
 }
 
-/// As what a value takes part in a sum.
+/// The type that a value counts as in an addition: a text, for example, counts as a Double.
 VariantType TermType(const Variant& value) {
   switch (value.Type()) {
     case VariantType::Empty:
@@ -166,7 +166,7 @@ Variant Add(const Variant& a, const Variant& b) {
   const double termB = b.ToDouble();
   const double sum = termA + termB;
   if (std::isinf(sum) && std::isfinite(termA) && std::isfinite(termB)) throw Error(Error::Overflow);
-  // A single does not hold every Long.
+  // A Single plus a Long gives a Double, because a Single cannot hold every Long exactly.
   const bool staysSingle = wider == VariantType::Single && std::min(typeOfA, typeOfB) != VariantType::Long;
   const float single = static_cast<float>(sum);
   if (staysSingle && std::isinf(single) == std::isinf(sum)) return single;

@@ -6,7 +6,7 @@ namespace tactix {
 
 class Trackable;
 
-/// One place that watches a Trackable; the Trackable tells it when it dies. Never allocates.
+/// A watch on a Trackable, which clears it when it is destroyed. Never allocates.
 class Tracker {
  public:
   Tracker() = default;
@@ -30,7 +30,7 @@ class Tracker {
   Tracker* next_ = nullptr;
 };
 
-/// Base of what may be destroyed in the middle of its own call-outs: controls, widgets, sites.
+/// Base of objects that may be destroyed by a handler which they are calling: controls, widgets, sites.
 class Trackable {
  public:
   Trackable() = default;

@@ -44,7 +44,7 @@ char AccessKeyOf(std::string_view caption) {
 }
 
 std::string PlainCaption(std::string_view caption) {
-  // Nearly every caption; front ends ask with each change.
+  // Fast path: most captions have no mark, and front ends ask at every change.
   if (caption.find('&') == std::string_view::npos) return std::string(caption);
   std::string plain;
   for (std::size_t i = 0; i < caption.size(); ++i) {

@@ -7,7 +7,7 @@ namespace tactix {
 
 namespace {
 
-/// Names for which the container's view of a control comes before the control's own member of that name.
+/// For these names the extender's own property is meant, even where the control has one of the same name.
 bool IsContainersName(std::string_view name) {
   for (const std::string_view own : {"Left", "Top", "Width", "Height", "Visible"}) {
     if (SameName(name, own)) return true;

@@ -10,7 +10,7 @@
 
 namespace tactix {
 
-/// The pictures of a toolbar by name, numbered from 1. A front end knows what each name looks like.
+/// The names of a toolbar's pictures, numbered from 1. The front end has the picture for each name.
 class ImageList {
  public:
   ImageList() = default;

@@ -11,6 +11,7 @@ namespace tactix {
 
 enum class TextAlignment { Left, Center, Right };
 
+/// A caption, or a value, as text.
 class TACTIX_EXPORT Label final : public Captioned {
  public:
   WidgetKind Kind() const override { return WidgetKind::Label; }
@@ -31,7 +32,7 @@ class TACTIX_EXPORT Label final : public Captioned {
     Notify(Aspect::Caption);
   }
 
-  /// The user clicks it. A label to whose click nobody listens lets the mouse through to its parent.
+  /// The user clicks it. A label whose click has no handlers lets the mouse through to its parent.
   void Click() {
     Perform([this] { Clicked.Raise(); });
   }

@@ -73,7 +73,7 @@ void ListBox::ListIndex(std::int32_t row) {
 }
 
 void ListBox::Text(std::string_view text) {
-  // As long as a row is selected, the text is that row's.
+  // The selected row's own text, too: text_ is that text while a row is selected.
   if (text == text_) return;
   text_.assign(text);
   ShowAppended();

@@ -27,14 +27,14 @@ class TACTIX_EXPORT ListBox final : public Widget {
   /// Makes room for that many rows in all.
   void Reserve(std::size_t rows) { rows_.reserve(rows); }
 
-  /// While one lives, rows that are added at the end are drawn together: at its end, or when anything else about the
-  /// list changes. Front ends take many rows at once far faster. The list may end before it.
+  /// While one exists, the front end hears of rows added at the end all together: when it ends, or when anything else
+  /// about the list changes. Front ends take many rows at once far faster. The list may be destroyed before it.
   class TACTIX_EXPORT Appending {
    public:
     explicit Appending(ListBox& list);
     Appending(const Appending&) = delete;
     Appending& operator=(const Appending&) = delete;
-    /// Ends it where End() has not; an error of the drawing is then passed over.
+    /// Calls End() if that has not happened yet, and ignores an error of the front end.
     ~Appending();
 
     void End();
@@ -74,7 +74,7 @@ class TACTIX_EXPORT ListBox final : public Widget {
  private:
   bool TakesKey(const KeyPress& key) override;
   void Select(std::int32_t row);
-  /// Has what was added drawn.
+  /// Tells the front end of the rows that an Appending has held back.
   void ShowAppended();
 
   struct Row {
@@ -87,7 +87,7 @@ class TACTIX_EXPORT ListBox final : public Widget {
   std::vector<Row> rows_;
   std::string text_;
   std::int32_t row_ = -1;
-  std::int32_t notShown_ = 0;  // how many rows at the end
+  std::int32_t notShown_ = 0;  // rows at the end that the front end has not heard of
   std::int32_t appendings_ = 0;
 };
 

@@ -40,10 +40,10 @@ class TACTIX_EXPORT MenuEntry : public Trackable {
   std::span<MenuEntry* const> Entries() const { return entries_; }
   MenuEntry* Parent() const { return parent_; }
 
-  /// The user chooses the entry; closes the menu. Only while its menu is open.
+  /// The user chooses the entry, which closes the menu. Does nothing while the menu is closed.
   void Choose();
 
-  /// The site on which the menu is open; null while it is closed, and for what is no menu.
+  /// The site on which the menu is open; null while it is closed, and for an entry that is not itself a menu.
   virtual Site* OpenOn() const { return nullptr; }
   virtual void Close() {}
 

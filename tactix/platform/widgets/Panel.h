@@ -5,7 +5,7 @@
 
 namespace tactix {
 
-/// A raised area that holds other widgets. Its caption stands in the middle, under them.
+/// A raised area that holds other widgets. Its caption stands in the middle, behind them.
 class TACTIX_EXPORT Panel final : public Captioned {
  public:
   WidgetKind Kind() const override { return WidgetKind::Panel; }

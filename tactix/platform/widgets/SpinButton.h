@@ -6,7 +6,8 @@
 
 namespace tactix {
 
-/// A pair of buttons, one above the other, that step something of the control's up and down. It holds no value.
+/// A pair of buttons, one above the other, for stepping a value up and down. The value is the control's; this widget
+/// holds none.
 class TACTIX_EXPORT SpinButton final : public Widget {
  public:
   WidgetKind Kind() const override { return WidgetKind::SpinButton; }

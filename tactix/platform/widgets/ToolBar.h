@@ -19,13 +19,13 @@ class TACTIX_EXPORT ToolBar final : public Widget {
  public:
   WidgetKind Kind() const override { return WidgetKind::ToolBar; }
 
-  /// Puts the buttons of a design behind those that are there.
+  /// Adds buttons after those that are there.
   void AddButtons(std::span<const ToolButtonDesign> designs);
   std::span<const std::unique_ptr<ToolButton>> Buttons() const { return buttons_; }
   /// The button with that key, compared with case; fails with 9 when there is none.
   ToolButton& Button(std::string_view key) const;
 
-  /// The pictures that the buttons' numbers mean; null until they are set.
+  /// The list that the buttons' picture numbers refer to; null until it is set.
   const ImageList* Pictures() const { return pictures_; }
   void Pictures(const ImageList& pictures) { pictures_ = &pictures; }
 

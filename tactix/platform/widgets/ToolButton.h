@@ -16,7 +16,7 @@ class ToolBar;
 /// Push: an ordinary button. Group: one of adjacent group buttons of which at most one is pressed. Separator: a gap.
 enum class ToolButtonStyle { Push, Group, Separator };
 
-/// A button as a toolbar is designed with.
+/// What a toolbar's button is made from.
 struct ToolButtonDesign {
   std::string_view key;
   std::string_view caption;

@@ -90,13 +90,13 @@ enum class Aspect {
   Refresh
 };
 
-/// What a front end puts on a widget to draw it.
+/// How a front end hears what has changed about a widget that it draws.
 class TACTIX_EXPORT WidgetObserver {
  public:
   virtual ~WidgetObserver() = default;
   virtual void Changed(Widget& widget, Aspect aspect) = 0;
   virtual void RowInserted(ListBox&, std::int32_t) {}
-  /// That many rows were added at the end, the first one here.
+  /// `count` rows were added at the end; `first` is the first of them.
   virtual void RowsAppended(ListBox& list, std::int32_t first, std::int32_t count) {
     for (std::int32_t row = first; row < first + count; ++row) RowInserted(list, row);
   }
@@ -119,7 +119,7 @@ class TACTIX_EXPORT Widget : public Trackable {
   /// The name under which its control knows it.
   std::string_view Name() const { return name_; }
 
-  /// Place inside the parent, in the control's scale units. One that is not finite fails with 380.
+  /// Place inside the parent, in the control's scale units. A number that is not finite fails with 380.
   float Left() const { return left_; }
   void Left(float left) { Place(left, top_, width_, height_); }
   float Top() const { return top_; }
@@ -158,7 +158,7 @@ class TACTIX_EXPORT Widget : public Trackable {
   void SetFocus();
   bool HasFocus() const;
 
-  /// Puts a child above those that are there. The child does not belong to its parent.
+  /// Adds a child in front of the others. The parent does not own it.
   void Add(Widget& child, std::string_view name);
   Widget* Parent() const { return parent_; }
   /// Bottom of the z-order first.
@@ -174,7 +174,7 @@ class TACTIX_EXPORT Widget : public Trackable {
   Extender* Owner() const;
   /// The site of the control it belongs to, or null.
   virtual Site* OwnerSite() const;
-  /// How many twips one unit of the coordinates of this widget's own place is.
+  /// How many twips one unit of Left, Top, Width and Height is.
   virtual float TwipsPerUnit() const;
 
   /// A late-bound object with the widget's members; fails with 91 once the widget is gone.
@@ -199,7 +199,7 @@ class TACTIX_EXPORT Widget : public Trackable {
   Event<const MouseState&> MousePressed{0, "MouseDown"};
   Event<const MouseState&> MouseMoved{0, "MouseMove"};
 
-  /// The key map: takes every key it is given, also those that it does nothing with.
+  /// The key map: every key that reaches it counts as taken, even if it does nothing with it.
   using KeyMap = std::function<void(const KeyPress&)>;
   void OnKeyDown(KeyMap map) { keyMap_ = std::move(map); }
   bool HasKeyMap() const { return static_cast<bool>(keyMap_); }
