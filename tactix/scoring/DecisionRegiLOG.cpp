@@ -8,7 +8,7 @@ namespace tactix {
 
 namespace {
 
-// Twips. The higher of the two registers and a line fit in.
+// Twips. High enough for the register in its higher, after-advice form and the line of feedback under it.
 constexpr float DesignHeight = 2280;
 constexpr float SizeOfFont = 12;
 

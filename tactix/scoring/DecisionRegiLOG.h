@@ -32,7 +32,8 @@ class TACTIX_EXPORT DecisionRegiLOG : public Control {
     Children.DecisionRegister.TypeOfDecisionRegister(type);
   }
 
-  /// Passes the verdict on and says it in words: "???" for one that is no verdict.
+  /// Passes the verdict on to the register and says it in words; "???" where it stands neither for a play nor for
+  /// "correct".
   void AfterAdvice(Coded<AfterAdvicePossibilities> verdict);
 
   void DisplayTheDrillResults(std::int16_t theNumberOfDecisions, std::int16_t theNumberOfCorrectDecisions);

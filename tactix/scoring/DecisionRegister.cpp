@@ -22,10 +22,10 @@ constexpr float Margin = 120;
 constexpr float CaptionWidth = 1290;
 constexpr float CaptionHeight = 390;
 constexpr float ValueLeft = Margin + CaptionWidth + 60;
-constexpr float ValueHeight = 280;  // less than a caption's by twice of what its top lies lower: they stand level
+constexpr float ValueHeight = 280;  // its top lies about 55 lower than its caption's, so both are centred on one line
 constexpr float BreaksTop = 890;
 constexpr float BreakPercentTop = 950;
-constexpr float VerdictTop = StandardHeight;  // only the higher register shows it
+constexpr float VerdictTop = StandardHeight;  // below the standard form's edge: only the higher form shows it
 constexpr float VerdictHeight = 300;
 constexpr float VerdictCaptionWidth = 1740;
 constexpr float VerdictLeft = Margin + VerdictCaptionWidth + 60;
@@ -33,7 +33,7 @@ constexpr float VerdictLeft = Margin + VerdictCaptionWidth + 60;
 constexpr float SizeOfCaptions = 12;
 constexpr float SizeOfValues = 9.75F;
 
-/// The tops of the two lines that move.
+/// The tops of the two lines that move up when the line of breaks is shown.
 struct Arrangement {
   float decisions;
   float numberOfDecisions;
@@ -116,7 +116,7 @@ void DecisionRegister::Resized() {
 }
 
 void DecisionRegister::AfterAdvice(Coded<AfterAdvicePossibilities> verdict) {
-  // The verdicts that name a play have its code.
+  // A verdict that names a play has that play's code.
   const Play* const play = FindPlay(Coded<AdvicePossibilities>(verdict.Value()));
   Label& label = Children.labelAfterAdvice[1];
   label.Caption(play ? play->shortName : NoVerdict);

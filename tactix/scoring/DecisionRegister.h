@@ -29,15 +29,15 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   std::int16_t NumberOfBreakDecisions() const { return numberOfBreakDecisions_; }
   void NumberOfBreakDecisions(std::int16_t count) { numberOfBreakDecisions_ = count; }
 
-  /// StandardDecisionRegister by default, and again whenever saved properties are read. Decides how high the register
-  /// is from the next time it is displayed.
+  /// StandardDecisionRegister by default, and again whenever saved properties are read. Decides the register's height,
+  /// but only when it is next displayed.
   Coded<DecisionRegisterType> TypeOfDecisionRegister() const { return typeOfDecisionRegister_; }
   void TypeOfDecisionRegister(Coded<DecisionRegisterType> type) { typeOfDecisionRegister_ = type; }
 
   /// Shows the verdict on the last play: a play's name, or a blank line for anything else, "correct" included.
   void AfterAdvice(Coded<AfterAdvicePossibilities> verdict);
 
-  /// Takes both counts over and shows them.
+  /// Sets both counts and shows them.
   void DisplayTheDrillResults(std::int16_t theNumberOfDecisions, std::int16_t theNumberOfCorrectDecisions);
   /// Shows both counts as 0; the break count stays.
   void ResetDecisionData();
@@ -61,9 +61,9 @@ class TACTIX_EXPORT DecisionRegister : public Control {
     Label lblDecisions;
     Label theNumberOfDecisions;
     Label lblBreakDecisions;
-    /// Never written: it keeps its designed figure.
+    /// Always shows its designed figure, whatever the counts are.
     Label lblBreakPercent;
-    /// The caption of the verdict, and the verdict.
+    /// The verdict's caption, then the verdict.
     std::array<Label, 2> labelAfterAdvice;
   } Children;
 

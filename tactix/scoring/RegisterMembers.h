@@ -6,7 +6,7 @@
 
 namespace tactix {
 
-// The two registers have the same members.
+// The late-bound members, which are the same for both registers.
 
 template <class Register>
 PropertyTable RegisterProperties() {

@@ -10,7 +10,7 @@ namespace tactix {
 
 namespace {
 
-constexpr std::int16_t AceCountedHigh = 10;  // what an ace adds when it counts 11
+constexpr std::int16_t AceCountedHigh = 10;  // what an ace counted as 11 adds to the hard total
 constexpr double FirstTotalWithoutAlternative = 11;
 
 bool HasSecondTotal(const Variant& softTotal) {

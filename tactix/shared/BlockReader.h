@@ -11,17 +11,17 @@
 namespace tactix {
 
 /// Reads a decision block's properties one at a time: straight from a DecisionBlock, or by name from any object that
-/// has them. A DecisionBlock must outlive the reader; an object is kept.
+/// has them. A DecisionBlock must outlive the reader; any other object is kept alive by it.
 class TACTIX_EXPORT BlockReader {
  public:
   explicit BlockReader(const DecisionBlock& block) : block_(&block) {}
   /// Fails with 424 where the variant holds no object. A null object fails with 91 when it is read.
   explicit BlockReader(const Variant& thisDCB) : object_(thisDCB.ToObject()) {}
 
-  /// Fails with 438 where the object lacks the property, or as its getter fails.
+  /// Fails with 438 where the object lacks the property, and with the error of the object's own getter.
   Variant Value(BlockField field) const;
-  /// The value as text, behind what `out` holds; a failure leaves `out` as it was. From a DecisionBlock it allocates
-  /// nothing where the capacity of `out` suffices.
+  /// Appends the value as text to `out`, which stays as it was on a failure. Reading a DecisionBlock allocates nothing
+  /// where the capacity of `out` suffices.
   void AppendText(BlockField field, std::string& out) const;
 
  private:
@@ -32,12 +32,13 @@ class TACTIX_EXPORT BlockReader {
 };
 
 /// Copies the thirteen properties in the order of BlockField. A failure ends it at that property: those before it are
-/// copied, the others keep their values. From a DecisionBlock it allocates only where a text outgrows its predecessor.
+/// copied, the others keep their values. Copying a DecisionBlock allocates only where a text is longer than the one it
+/// replaces.
 TACTIX_EXPORT void DecodeBlock(const BlockReader& from, DecisionBlock& into);
 
-/// The prompt of a hand, behind what `out` holds: "Ann - You have  12  - Make your Selection", with " OR " and the soft
-/// total after the hard one when the hand is soft. Reads HardTotal, SoftTotal and PlayerName in this order. A failure
-/// leaves `out` as it was.
+/// Appends the prompt of a hand to `out`: "Ann - You have  12  - Make your Selection". Where SoftTotal is not 0 and below
+/// 11, " OR " and the hard total plus 10 follow the hard total. Reads HardTotal, SoftTotal and PlayerName in this order.
+/// `out` stays as it was on a failure.
 TACTIX_EXPORT void AppendDecisionPrompt(const BlockReader& block, std::string& out);
 
 }  // namespace tactix

@@ -26,7 +26,7 @@ class TACTIX_EXPORT DecisionBlock final : public Object {
   std::int16_t HardTotal() const { return hardTotal_; }
   void HardTotal(std::int16_t total) { hardTotal_ = total; }
 
-  /// Non-zero when the hand is soft. A stored 11 reads as 21.
+  /// Non-zero when the hand is soft. A stored 11 reads as 21, deliberately.
   std::int16_t SoftTotal() const { return softTotal_ == 11 ? std::int16_t{21} : softTotal_; }
   void SoftTotal(std::int16_t total) { softTotal_ = total; }
 
@@ -63,7 +63,7 @@ class TACTIX_EXPORT DecisionBlock final : public Object {
   Variant Get(std::string_view name) override;
   void Put(std::string_view name, const Variant& value) override;
 
-  /// The same by field.
+  /// Get and Put by field instead of by name.
   Variant Field(BlockField field) const;
   void Field(BlockField field, const Variant& value);
 

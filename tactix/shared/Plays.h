@@ -31,7 +31,7 @@ constexpr const Play& PlayOf(AdvicePossibilities code) {
   return Plays[static_cast<std::size_t>(static_cast<std::int32_t>(code) - 1)];
 }
 
-/// Null for a number that advises no play.
+/// The play with this code; null where no play has it.
 constexpr const Play* FindPlay(Coded<AdvicePossibilities> code) {
   for (const Play& play : Plays) {
     if (code == play.code) return &play;
@@ -39,7 +39,7 @@ constexpr const Play* FindPlay(Coded<AdvicePossibilities> code) {
   return nullptr;
 }
 
-/// Of a capital letter; null for one that makes no play.
+/// The play that a capital letter makes; null where it makes none.
 constexpr const Play* FindPlay(char letter) {
   for (const Play& play : Plays) {
     if (play.letter == letter) return &play;
@@ -47,7 +47,8 @@ constexpr const Play* FindPlay(char letter) {
   return nullptr;
 }
 
-/// The row about a play in a table of one row a play, each with a member `play`; null without a play.
+/// The row for a play in a table whose rows each refer to their play by a member `play`. Null for a null play, and
+/// where no row is for it.
 template <class Rows>
 constexpr auto RowOf(const Rows& rows, const Play* play) -> decltype(&rows[0]) {
   for (const auto& row : rows) {

@@ -34,8 +34,8 @@ void BetStrategyList::InputBettingStrategyDescriptions() {
 void BetStrategyList::FillRow(std::int16_t strategy) {
   const Weak<BetStrategyList> self(this);
   DescriptionBuffer& buffer = StrategyListData::Buffer();
-  // The playing strategy of the same number, deliberately.
-  bool isEmpty = false;  // also where nobody can be asked
+  // Asks about the playing strategy of this number, not the betting strategy, deliberately.
+  bool isEmpty = false;  // stays false where there is no catalogue
   PassingOverObjectNotSet([&] { isEmpty = DescribePlaying(strategy).empty(); });
   if (isEmpty || !self) return;
   PassingOverObjectNotSet([&] { buffer.Write(DescribeBetting(strategy)); });

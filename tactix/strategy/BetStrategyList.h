@@ -6,21 +6,21 @@
 
 namespace tactix {
 
-/// A drop-down list from which the player picks a betting strategy. It lists the numbers under which the catalogue has
-/// a playing strategy, too. Unlike the playing lists it does not report what SelectThisStrategy selects.
+/// A drop-down list from which the player picks a betting strategy. It leaves out numbers under which the catalogue has
+/// no playing strategy. Unlike the playing lists it does not report what SelectThisStrategy selects.
 class TACTIX_EXPORT BetStrategyList : public NumberedStrategyList {
  public:
   explicit BetStrategyList(Site& site);
   ~BetStrategyList() override;
 
-  /// Refills the box from the catalogue, strategies -1 to the highest betting strategy loaded. Passes over what is not
-  /// set (91); any other error ends it and goes on to the caller under its own code, with the source
+  /// Refills the box from the catalogue, strategies -1 to the highest betting strategy loaded. An "object not set" (91)
+  /// of the catalogue is ignored. Any other error ends the fill and reaches the caller with its own code, the source
   /// "BettingStrategyList::" and the description "InputBettingStrategyDescriptions". Rows already added stay.
   void InputBettingStrategyDescriptions();
   const MethodTable& Methods() const override;
 
-  /// The next accepted selection raises no event; false by default. SelectThisStrategy sets it, also where the box then
-  /// refuses the row, and the next accepted selection clears it.
+  /// Whether the next accepted selection raises no event; false by default. SelectThisStrategy sets it, even where the
+  /// box then refuses the row, and the next accepted selection clears it.
   bool QuietSelection() const { return quietSelection_; }
 
   /// Rows past this one are shown, but never reported.

@@ -15,11 +15,11 @@ std::optional<std::string> BettingRowText(std::string_view description, int stra
   std::string caption(description.substr(firstComma + 1, secondComma - firstComma - 1));
   const std::string_view rest = description.substr(secondComma + 1);
   if (rest.find('\\') != none) {
-    // No list shows the note, but one that cannot be unshifted fails.
+    // No list shows the note. It is unshifted all the same, because a note that cannot be must fail.
     static_cast<void>(UnshiftAndTrimStrategyText(description.substr(0, firstComma)));
     caption = UnshiftStrategyText(caption);
   }
-  // Exactly one character, whatever follows it.
+  // The flag is one character; whatever follows it is ignored.
   const bool present = FlagOf(rest.substr(0, 1));
   if (strategy < 0 || !present) return std::string(UnusableRowText(strategy));
   return caption;

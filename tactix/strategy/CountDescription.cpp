@@ -16,7 +16,7 @@ namespace {
 
 constexpr int HighestCard = 13;
 
-/// As much of a scrambled text as is looked at.
+/// The part of a shifted text that is looked at: its first ShiftedWidth characters.
 std::string_view Scrambled(std::string_view text) {
   std::string_view rest = text;
   for (std::size_t i = 0; i < ShiftedWidth && !rest.empty(); ++i) rest.remove_prefix(DecodeUtf8(rest).length);
@@ -24,7 +24,7 @@ std::string_view Scrambled(std::string_view text) {
 }
 
 std::int16_t NumberOf(std::string_view field) {
-  // Nearly all are short and have no sign.
+  // Fast path: nearly all fields are short and have no sign.
   std::int16_t number = 0;
   const char* const end = field.data() + field.size();
   const bool isPlain = !field.empty() && field.front() >= '0' && field.front() <= '9';
@@ -49,7 +49,7 @@ bool CountDescription::ReadTexts(CountStrategyRecord& record, int system) {
     return false;
   }
   record.Name = Next(',');
-  // The first flag may be missing, but then so is the blank behind the second.
+  // Without a blank this flag is left as it was; reading the next one then fails with 5.
   if (Has(' ')) {
     record.Enciphered = FlagOf(Next(' '));
     if (record.Enciphered) {
@@ -67,8 +67,8 @@ void CountDescription::ReadNumbers(CountStrategyRecord& record, int system) {
   record.CountSetting4 = NumberOf(Next(' '));
   record.CountSetting1 = NumberOf(Next(' '));
   record.CountSetting2 = NumberOf(Next(' '));
-  // Point values go under the number of the system. That is past the four that the record has, so a field here ends
-  // the reading: meant, since the lists are known by it.
+  // Point values are stored under the system's number, which is 11 or higher, but the record has room for 1 to 4 only.
+  // So any field here fails with 9 and ends the fill: odd, but meant, since hosts know the lists that way.
   for (int card = 1; card <= HighestCard && Has(' '); ++card) record.PointValues(system, card, NumberOf(Next(' ')));
 }
 

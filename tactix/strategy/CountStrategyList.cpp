@@ -24,7 +24,8 @@ constexpr StrategyListRules Rules = {
     .rowWidth = RowWidth::SixteenBits,
 };
 
-/// The systems as designed, from the lowest number up; the last but one has none.
+/// The captions that a new list shows, from the lowest number up. The last system but one has none, so the last one's
+/// caption stands in its row: meant.
 constexpr std::string_view DesignNames[] = {"USTON Simple +/-",
                                             "USTON Advanced +/-",
                                             "USTON Advanced Point Count",
@@ -55,7 +56,7 @@ constexpr std::string_view DesignNames[] = {"USTON Simple +/-",
 
 constexpr auto DefaultSystem = static_cast<std::int16_t>(CountStrategyPossibilities::KelvoAPC);
 
-/// What the catalogue is handed at each fill.
+/// The object without members that the catalogue is handed at each fill.
 class CountStrategyStore final : public Object {};
 
 std::string Describe(std::int16_t system) {
@@ -112,7 +113,7 @@ void CountStrategyList::FillBegins() {
 
 void CountStrategyList::FillRow(std::int16_t system) {
   const Weak<CountStrategyList> self(this);
-  bool isEmpty = false;  // also where nobody can be asked
+  bool isEmpty = false;  // stays false where there is no catalogue
   PassingOverObjectNotSet([&] { isEmpty = Describe(system).empty(); });
   if (isEmpty || !self) return;
   PassingOverObjectNotSet([&] {

@@ -22,22 +22,23 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   explicit CountStrategyList(Site& site);
   ~CountStrategyList() override;
 
-  /// Setting it fills the list if no fill was complete yet and then, for 11 to 38 only, selects row value - 11; fails
-  /// with 380 where there is no such row. It reads the selected row - 1: not the inverse, hosts rely on both. Saved
-  /// under its own name, 16 by default, and notified when a row was selected.
+  /// Setting it fills the list unless a fill has been completed and then, for 11 to 38 only, selects row value - 11;
+  /// fails with 380 where there is no such row. Reading it gives the selected row - 1, which is not the inverse: hosts
+  /// rely on both. Saved under its own name, 16 by default, and notified when a row was selected.
   Coded<CountStrategyPossibilities> CountStrategy() const { return std::int32_t{ListIndex()}; }
   void CountStrategy(Coded<CountStrategyPossibilities> system);
-  /// Kept for hosts that ask: always 0 for cards 1 to 4 of systems 11 to 38, since no fill keeps point values, see
-  /// CountDescription::ReadNumbers; fails with 9 for others.
+  /// Kept for hosts that ask: always 0 for cards 1 to 4 of systems 11 to 38, since no fill keeps point values (see
+  /// CountDescription::ReadNumbers). Fails with 9 for other systems and cards.
   std::int16_t CountValue(Coded<CountStrategyPossibilities> forThisCount, std::int16_t andThisCard) const;
   /// What fills have last read of a system, 11 to 38; fails with 9 for others. A system that a fill passes over keeps
   /// what it had.
   const CountStrategyRecord& Record(Coded<CountStrategyPossibilities> system) const;
 
-  /// Refills the box from the catalogue, systems 11 to 38. A system without a description gets no row. Passes over what
-  /// is not set (91); any other error ends it quietly, so that the rows added so far and the old text stay.
+  /// Refills the box from the catalogue, systems 11 to 38. A system without a description gets no row. An "object not
+  /// set" (91) of the catalogue is ignored; any other error ends the fill without a failure, and the rows added so far
+  /// and the old text stay.
   void InputCountStrategyDescriptions();
-  /// A fill was complete; false by default.
+  /// Whether a fill has been completed; false by default.
   bool IsFilled() const { return isFilled_; }
   /// The system being filled; after a fill, the last one visited.
   std::int16_t CurrentIndex() const { return FilledNumber(); }
@@ -72,12 +73,12 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   static constexpr std::int32_t Lowest = static_cast<std::int32_t>(CountStrategyPossibilities::LowestCardCountIndex);
   static constexpr std::int32_t Highest = static_cast<std::int32_t>(CountStrategyPossibilities::HighestCardCountIndex);
 
-  /// False where there is no such system.
+  /// Selects the system's row; false where there is no such system.
   bool Select(std::int32_t system);
 
   std::array<CountStrategyRecord, Highest - Lowest + 1> records_;
   ObjectRef store_;
-  std::string description_;  // keeps the last one where the next cannot be had
+  std::string description_;  // keeps the last description where the next one cannot be read
   bool isFilled_ = false;
 };
 

@@ -12,7 +12,7 @@ namespace tactix {
 struct TACTIX_EXPORT CountStrategyRecord {
   std::string Name;
   std::string Description;
-  /// The two texts have arrived scrambled.
+  /// The two texts were shifted in the catalogue (see UnshiftStrategyText).
   bool Enciphered = false;
   /// The record's three spare numbers, neither filled nor read.
   std::array<std::int16_t, 3> Spare{};

@@ -6,9 +6,9 @@
 
 namespace tactix {
 
-/// A description's field as a flag; fails with 13 where it is none.
+/// A description's field as a flag; fails with 13 where it is not one.
 inline bool FlagOf(std::string_view field) {
-  // As nearly every description spells them.
+  // Fast path: nearly every description spells its flags so.
   if (field == "True") return true;
   if (field == "False") return false;
   if (field.size() == 1 && field.front() >= '0' && field.front() <= '9') return field.front() != '0';

@@ -6,7 +6,7 @@
 namespace tactix {
 
 void NumberedStrategyList::SelectThisStrategy(std::int16_t strategy) {
-  // Not ">=": the count itself goes on to the box, which refuses it.
+  // Meant to be ">" and not ">=": the row count itself goes on to the box, which fails with 380.
   if (strategy > Box().ListCount()) return;
   SelectionComes();
   ListIndex(strategy);
@@ -19,7 +19,7 @@ void NumberedStrategyList::Report(std::int32_t row) {
 
 void NumberedStrategyList::FillUpTo(std::int16_t highest) { Fill(EmptySeat, highest); }
 
-// A catalogue may write to the number that it is asked for.
+// Both take the number by value, because a catalogue may write to the number that it is asked for.
 
 std::string NumberedStrategyList::DescribePlaying(std::int16_t strategy) {
   return StrategyListData::Catalogue()->DescribeStrategy(strategy);

@@ -11,7 +11,8 @@
 namespace tactix {
 
 /// What the lists of playing and betting strategies have in common. Row r stands for strategy r - 1, row 0 for the
-/// empty seat. Where a list leaves rows out, those behind them stand for lower numbers than they were filled from.
+/// empty seat. Where a list leaves a row out, the rows after it stand for lower numbers than those they were filled
+/// for.
 class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
  public:
   /// The selected row's strategy, as ListIndex. Setting a number above the row count does nothing; any other selects
@@ -37,9 +38,9 @@ class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
   /// SelectThisStrategy is about to select a row.
   virtual void SelectionComes() {}
   void Report(std::int32_t row) override;
-  /// Fills the rows of the seat and of all strategies up to the highest.
+  /// Fills the rows of the empty seat and of all strategies up to the highest.
   void FillUpTo(std::int16_t highest);
-  /// The properties of a list that passes over what cannot be read or written, or reports it.
+  /// The properties; onFailure says what happens when a saved one cannot be read or written.
   static PropertyTable NumberedProperties(OnFailure onFailure);
   static std::string DescribePlaying(std::int16_t strategy);
   static std::string DescribeBetting(std::int16_t strategy);

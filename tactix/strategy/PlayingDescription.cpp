@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto None = std::string_view::npos;
 
-/// The caption, where the strategy is present.
+/// The caption of a strategy; nothing where it is not present.
 std::optional<std::string> PresentCaption(std::string_view description) {
   const std::size_t firstComma = description.find(',');
   if (firstComma == None) throw Error(Error::InvalidProcedureCall);
@@ -19,11 +19,11 @@ std::optional<std::string> PresentCaption(std::string_view description) {
   if (secondComma == None) return std::nullopt;
   std::string caption(description.substr(firstComma + 1, secondComma - firstComma - 1));
 
-  std::size_t presentAt = 0;  // without a blank the last field starts at the first character
+  std::size_t presentAt = 0;  // without a blank the last field is read from the description's start: meant
   const std::size_t blank = description.find(' ', secondComma + 1);
   if (blank != None) {
     if (FlagOf(description.substr(secondComma + 1, blank - secondComma - 1))) {
-      // No list shows the note, but one that cannot be unshifted fails.
+      // No list shows the note. It is unshifted all the same, because a note that cannot be must fail.
       static_cast<void>(UnshiftAndTrimStrategyText(description.substr(0, firstComma)));
       caption = UnshiftStrategyText(caption);
     }

@@ -47,7 +47,8 @@ void StrategyList::FillRow(std::int16_t strategy) {
   buffer.Write(TwoDigits(strategy).Text());
   buffer.Write(DescribePlaying(strategy));
   if (!self) return;
-  // The second answer decides; a catalogue may count its calls.
+  // Asked again: the first answer gives the text, the second one says whether it is empty. Meant; a catalogue may count
+  // its calls.
   const bool isEmpty = DescribePlaying(strategy).empty();
   if (!self) return;
   if (isEmpty) {

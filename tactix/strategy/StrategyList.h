@@ -6,15 +6,15 @@
 
 namespace tactix {
 
-/// A drop-down list from which the player picks a playing strategy. Every strategy number has a row, those without a
-/// strategy that can be used are "Not Present"; only a description without a comma gets none.
+/// A drop-down list from which the player picks a playing strategy. Every strategy number has a row, which reads "Not
+/// Present" where there is no strategy that can be used; only a description without a comma gets no row.
 class TACTIX_EXPORT StrategyList : public NumberedStrategyList {
  public:
   explicit StrategyList(Site& site);
   ~StrategyList() override;
 
-  /// Refills the box from the catalogue, strategies -1 to the highest loaded. Fails as the catalogue fails, and with 13
-  /// for a field that is no flag; rows already added stay.
+  /// Refills the box from the catalogue, strategies -1 to the highest loaded. Fails with the catalogue's errors, and
+  /// with those of a description that cannot be read (5 or 13); rows already added stay.
   void InputPlayingStrategyDescriptions();
   const MethodTable& Methods() const override;
 

@@ -36,7 +36,7 @@ void StrategyListControl::SetUpBox() {
   box.ToolTipText(rules_.toolTip);
   if (!rules_.fontName.empty()) box.Font({std::string(rules_.fontName), SizeOfFont});
   box.Clicked.Connect([this] { ReportTheStrategySelection(); });
-  // A new text deselects, so that nothing is reported as long as boxes do so.
+  // A new text deselects the row, so this reports nothing; it would if boxes kept the selection.
   box.Changed.Connect([this] { ReportTheStrategySelection(); });
 }
 
@@ -108,7 +108,8 @@ void StrategyListControl::ReportTheStrategySelection() {
 
 void StrategyListControl::GoBackToTheLastGoodRow() {
   const Weak<StrategyListControl> self(this);
-  // Going back is no selection: it is not reported, even where that row is unusable too.
+  // Going back does not count as a selection: it is not reported, and not refused either where that row is unusable,
+  // too.
   refusing_ = true;
   try {
     Box().ListIndex(lastGoodListIndex_);

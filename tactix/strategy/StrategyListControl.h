@@ -17,17 +17,17 @@ namespace tactix {
 
 struct StrategyListRules;
 
-/// What the drop-down lists of strategies have in common. Each fills itself from the strategy catalogue. Up to the
-/// highest row that it reports, it refuses a "Not Present" row with a beep and reports every other one that is
-/// selected, by a user or from code; rows past it are shown only.
+/// What the drop-down lists of strategies have in common. Each fills itself from the strategy catalogue. A selection,
+/// by a user or from code, is reported; a "Not Present" row is refused with a beep instead. Rows past the highest
+/// reported one are only shown.
 class TACTIX_EXPORT StrategyListControl : public Control {
  public:
   /// Adds a row of the host's own, at the end or before row `index`; an index outside 0 ... count fails with 5.
   void AddItem(std::string_view item, std::optional<std::int32_t> index = std::nullopt);
 
   /// The box's look. Each is saved and notified under its own name. A new list has the system's window colours, is
-  /// enabled and has its design's text, font and tool tip; where a form has stored nothing, it gets the ambient font
-  /// and an empty tool tip, and keeps its text.
+  /// enabled and has its designed text, font and tool tip. A saved form that lacks them gives it the ambient font and
+  /// an empty tool tip; the text stays.
   Color BackColor() const;
   void BackColor(Color color);
   Color ForeColor() const;
@@ -58,14 +58,15 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   bool Visible() const;
   void Visible(bool visible);
 
-  /// Loads the catalogue's range, then fills. Fails where the range cannot be had: without a catalogue with 91.
+  /// Loads the catalogue's range, then fills. Fails with 91 without a catalogue, and with the catalogue's error where
+  /// it gives no range.
   void LoadStrategiesFromIniFile();
-  /// Keeps the host's collection and its Count, no more: rows come from the catalogue alone. Fails with 91 for none,
-  /// and as the collection or the conversion of its Count fails; the collection is kept all the same.
+  /// Keeps the host's collection and its Count, no more: rows come from the catalogue alone. Fails with 91 for null,
+  /// and with the error of reading or converting the Count; even then the collection is kept.
   void UseThisStrategyList(const ObjectRef& thisStrategyList);
   /// The Count of the collection last handed over, 0 by default.
   std::int16_t StrategyCount() const { return strategyCount_; }
-  /// The last row that a selection has accepted, 0 by default.
+  /// The row of the last accepted selection, 0 by default.
   std::int32_t LastGoodListIndex() const { return lastGoodListIndex_; }
 
   void Resized() override;
@@ -77,18 +78,19 @@ class TACTIX_EXPORT StrategyListControl : public Control {
 
   virtual ListBox& Box() = 0;
   virtual const ListBox& Box() const = 0;
-  /// Fills the box, as the list's public method of another name does.
+  /// Fills the box: the list's public fill method, whose name differs from list to list.
   virtual void InputDescriptions() = 0;
-  /// The box has been cleared, and nothing added yet.
+  /// Called when the box has been cleared and nothing added yet.
   virtual void FillBegins() {}
   /// Describes one number and adds its row, if it gets one. The catalogue may destroy the list.
   virtual void FillRow(std::int16_t number) = 0;
-  /// A row was accepted.
+  /// Called for each accepted row, to raise the list's event.
   virtual void Report(std::int32_t row) = 0;
 
-  /// For the constructors of the lists.
+  /// To be called in the constructor of each list.
   void SetUpBox();
-  /// Clears, fills the rows of the numbers first ... last, and sets the text. An error ends it where it stands.
+  /// Clears the box, fills the rows of the numbers first ... last, and sets the text. An error ends it; the rows added
+  /// so far stay.
   void Fill(std::int32_t first, std::int32_t last);
   const StrategyRange& Range() const { return range_; }
   /// The number being filled; after a fill, the last one visited.
@@ -104,7 +106,7 @@ class TACTIX_EXPORT StrategyListControl : public Control {
     static void ToolTipText(PropertyTable& table);
     static void DefaultContent(PropertyTable& table);
   };
-  /// The rows of those that no list saves.
+  /// Adds the properties that no list saves.
   static void AddTheOtherProperties(PropertyTable& table);
   static MethodTable CommonMethods();
 

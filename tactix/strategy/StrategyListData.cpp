@@ -38,13 +38,13 @@ char32_t Unshift(const Utf8Character& character) {
 void DescriptionBuffer::Write(std::string_view text) {
   const std::string_view fitting = text.substr(0, Width);
   if (text_.size() == Width && IsAscii(fitting)) {
-    // Nearly every description: its characters are bytes, and the blanks behind it stand already.
+    // Fast path for nearly every description: each character is a byte, and the padding after it is there already.
     std::memmove(text_.data(), fitting.data(), fitting.size());
     if (fitting.size() < filled_) std::memset(text_.data() + fitting.size(), ' ', filled_ - fitting.size());
     filled_ = fitting.size();
     return;
   }
-  std::string written;  // apart from text_, which `text` may be a piece of
+  std::string written;  // not text_ itself, because `text` may be a part of it
   written.reserve(Width);
   std::size_t count = 0;
   for (; count < Width && !text.empty(); ++count) {
@@ -79,7 +79,7 @@ DescriptionBuffer& StrategyListData::Buffer() { return TheShared().buffer; }
 
 std::string UnshiftStrategyText(std::string_view text) {
   std::string unshifted;
-  // What lies past the width is lost, but a code that cannot be lowered fails there too.
+  // Characters past the width are dropped, but a code below 10 fails even there.
   for (std::size_t count = 0; !text.empty() && text.front() != '\0'; ++count) {
     const Utf8Character character = DecodeUtf8(text);
     const char32_t code = Unshift(character);

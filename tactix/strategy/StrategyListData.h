@@ -32,8 +32,8 @@ class TACTIX_EXPORT StrategyListData {
   using CatalogueFactory = std::function<std::shared_ptr<StrategyCatalogue>()>;
 
   /// The strategy catalogue, made by the factory on first use and then kept for the life of the process. Fails with 91
-  /// when there is none and the factory is empty or makes none. A call on it may set another one, so that callers hold
-  /// on to what they call.
+  /// when there is none and the factory is empty or makes none. A call on it may set another one, so callers keep the
+  /// pointer during the call.
   static std::shared_ptr<StrategyCatalogue> Catalogue();
   /// Sets the catalogue; null makes the next use create one again.
   static void UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue);
@@ -45,7 +45,7 @@ class TACTIX_EXPORT StrategyListData {
 
 /// By how much the code of a character is raised in a text that is stored shifted.
 inline constexpr char32_t ShiftDistance = 10;
-/// How many characters of a text that is stored shifted come back.
+/// How many characters of a shifted text are unshifted; the rest is dropped.
 inline constexpr std::size_t ShiftedWidth = 65;
 
 /// Each character's code lowered by 10, up to the end or a character of code 0; at most 65 characters come back. A code

@@ -28,7 +28,7 @@ void StrategyListLITE::InputPlayingStrategyDescriptions() {
 void StrategyListLITE::FillRow(std::int16_t strategy) {
   const Weak<StrategyListLITE> self(this);
   DescriptionBuffer& buffer = StrategyListData::Buffer();
-  bool isEmpty = false;  // also where nobody can be asked
+  bool isEmpty = false;  // stays false where there is no catalogue
   PassingOverObjectNotSet([&] { isEmpty = DescribePlaying(strategy).empty(); });
   if (isEmpty || !self) return;
   PassingOverObjectNotSet([&] { buffer.Write(DescribePlaying(strategy)); });

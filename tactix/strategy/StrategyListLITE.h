@@ -6,17 +6,16 @@
 
 namespace tactix {
 
-/// The light-weight list of playing strategies, to stand inside other controls: as StrategyList, but without rows for
-/// empty descriptions, with "Empty Seat" for a seat that is described, with fewer rows reported, and quiet when a fill
-/// or a description fails. What fails when its properties are loaded or saved, and when it is resized, reaches the
-/// container.
+/// The light-weight list of playing strategies, for use inside other controls. It differs from StrategyList: empty
+/// descriptions get no row, a described seat reads "Empty Seat", fewer rows are reported, and errors of a fill are
+/// ignored. Errors of loading, saving and resizing reach the container.
 class TACTIX_EXPORT StrategyListLITE : public NumberedStrategyList {
  public:
   explicit StrategyListLITE(Site& site);
   ~StrategyListLITE() override;
 
-  /// Refills the box from the catalogue, strategies -1 to the highest loaded. Passes over what is not set (91); any
-  /// other error ends it quietly, so that the rows added so far and the old text stay.
+  /// Refills the box from the catalogue, strategies -1 to the highest loaded. An "object not set" (91) of the catalogue
+  /// is ignored; any other error ends the fill without a failure, and the rows added so far and the old text stay.
   void InputPlayingStrategyDescriptions();
   const PropertyTable& Properties() const override;
   const MethodTable& Methods() const override;

@@ -67,7 +67,7 @@ void StrategyListControl::SetText(std::string_view text, std::string_view proper
   if (self) NotifyChanged(propertyName);
 }
 
-// The rows. What comes back goes straight to the box: restoring announces nothing.
+// The rows of the property table. Restoring sets the box directly, so it notifies nobody.
 
 void StrategyListControl::SavedRow::BackColor(PropertyTable& table) {
   table.Property(BackColorName, &List::BackColor, &List::BackColor)
@@ -96,7 +96,7 @@ void StrategyListControl::SavedRow::Font(PropertyTable& table) {
 }
 
 void StrategyListControl::SavedRow::Text(PropertyTable& table) {
-  // An empty one leaves the text as designed.
+  // Restoring an empty text leaves the present one.
   table.Property(TextName, &List::Text, &List::Text)
       .Saved("", {.restore = PropertyTable::SetBy([](List& list, const std::string& text) {
                     if (!text.empty()) list.Box().Text(text);

@@ -8,11 +8,12 @@
 
 namespace tactix {
 
+/// Whether a list lets go of the host's collection as soon as it is terminated, or when it is destroyed.
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
 enum class BoxSize { Width, WidthAndHeight };
 
-/// In how many bits ListIndex works out the row of a number: in sixteen, 32767 overflows (6).
+/// The width of the numbers with which ListIndex works out a row: in 16 bits 32767 + 1 overflows, which fails with 6.
 enum class RowWidth { SixteenBits, ThirtyTwoBits };
 
 /// What a strategy list does differently from the others, apart from how it fills and what it reports.
@@ -20,7 +21,7 @@ struct StrategyListRules {
   std::string_view boxName = "StrategyListBox";
   std::string_view text = SelectAStrategyText;
   std::string_view toolTip = {};
-  /// Empty for the platform's.
+  /// Empty for the platform's default font.
   std::string_view fontName = "Comic Sans MS";
   /// Rows past this one are shown, but never reported.
   std::int32_t highestReportedRow;

@@ -39,7 +39,7 @@ StrategyMarquix::StrategyMarquix(Site& site) : Control(site), innerSite_(site), 
 StrategyMarquix::~StrategyMarquix() = default;
 
 void StrategyMarquix::Arrange() {
-  // The mark has its place at the banner's end, shown or not: the banner's text does not jump.
+  // The mark's place at the banner's end is kept free while it is hidden, so that the banner's text does not move.
   const float width = Extender().ScaleWidth();
   const float banner = std::min(BannerHeight, Extender().ScaleHeight() / 2);
   const float mark = std::min(MarkWidth, width);
@@ -69,7 +69,8 @@ void StrategyMarquix::ReadProperties(PropertyBag& bag) {
   const Weak<StrategyMarquix> self(this);
   Control::ReadProperties(bag);
   if (!self) return;
-  // Under the name of its own value: nothing is ever saved there.
+  // Read under the name "True" or "False", whichever the mark is at the moment: odd, but meant. Nothing is ever saved
+  // there.
   const Variant marked = Children.optStrategySelected.Value();
   const bool read = bag.Read(marked.ToText(), marked).ToBoolean();
   if (self) Children.optStrategySelected.Value(read);

@@ -18,7 +18,7 @@
 namespace tactix {
 
 /// A captioned strategy chooser: a banner over a compact list of playing strategies, with a mark that the host can set
-/// to show that this strategy is the one in use. What fails in the list reaches the caller.
+/// to show that this strategy is the one in use. Errors of the list reach the caller.
 class TACTIX_EXPORT StrategyMarquix : public Control {
  public:
   explicit StrategyMarquix(Site& site);
@@ -41,7 +41,7 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
   /// Whether the list can be used, true by default.
   bool Enabled() const { return Children.StrategyListBox.Enabled(); }
   void Enabled(bool enabled) { Children.StrategyListBox.Enabled(enabled); }
-  /// The list's selected row - 1, -2 when no row is selected; setting it selects its row, as the list's.
+  /// The list's selected row - 1, -2 when no row is selected; setting it selects a row, like the list's own ListIndex.
   std::int16_t ListIndex() const { return Children.StrategyListBox.ListIndex(); }
   void ListIndex(std::int16_t strategy) { Children.StrategyListBox.ListIndex(strategy); }
 
@@ -50,7 +50,7 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
   /// A strategy numbered 1 or higher is selected: the seat and strategy 0 count as none.
   bool aStrategyExists() const { return ListIndex() > 0; }
   void InputPlayingStrategyDescriptions() { Children.StrategyListBox.InputPlayingStrategyDescriptions(); }
-  /// Loads and fills the list, twice in a row: catalogues may count their calls.
+  /// Loads and fills the list, twice in a row: meant, since catalogues may count their calls.
   void LoadStrategiesFromIniFile();
   /// Sets the mark; the list stays as it is, and nothing is raised.
   void SelectThisStrategy(bool Selection) { Children.optStrategySelected.Value(Selection); }
@@ -61,8 +61,8 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
     Children.StrategyListBox.UseThisStrategyList(thisStrategyList);
   }
 
-  /// Reads the caption, "Control Type" and the mark, the last one under the name "True" or "False", as it stands. A
-  /// property that fails ends the load or the save, which writes the caption only.
+  /// Reads the caption, "Control Type" and the mark, the mark under the name of its present value, "True" or "False".
+  /// Saving writes the caption only. A property that fails ends the load or the save.
   void ReadProperties(PropertyBag& bag) override;
   void Resized() override { Arrange(); }
   const PropertyTable& Properties() const override;
