@@ -7,8 +7,8 @@
 
 namespace tactix::companion {
 
-/// The library's own counter value: a whole number, 0 at first. Its steps end at 0, at the limit and, signed, at
-/// LowestSigned; a number that is already beyond such an end stays where it is. Never fails.
+/// The library's own counter value: a whole number, 0 at first. Its steps stop at 0, at the limit and, where numbers
+/// may be negative, at LowestSigned; a number already beyond such an end stays as it is. Never fails.
 class TACTIX_EXPORT CounterValue final : public CounterValueObject {
  public:
   static constexpr std::int16_t LowestSigned = -999;

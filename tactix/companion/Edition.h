@@ -11,7 +11,7 @@ namespace tactix::companion {
 /// The application's edition, which decision controls ask for by name: property `thisKelvoEdition`, method `Show`.
 class TACTIX_EXPORT Edition : public TableObject {
  public:
-  /// May change the flag, as the caller of Show sees it.
+  /// What it writes to the flag is handed back to the caller of Show.
   using ShowFunction = std::function<void(std::int16_t& modalFlag)>;
 
   Edition() = default;

@@ -32,7 +32,7 @@ bool IsControlCharacter(char c) {
   return (code < ' ' && c != '\t') || code == 0x7F;
 }
 
-/// The lines of a file become sections, one after the other.
+/// Turns the lines of a file into sections.
 class LineReader {
  public:
   LineReader(const IniFile& file, std::vector<IniSection>& sections) : file_(file), sections_(sections) {}
@@ -132,10 +132,10 @@ IniFile::IniFile(std::string_view text, std::string_view name) : name_(name) {
 IniFile IniFile::Read(const std::filesystem::path& path) {
   const std::string name = Utf8NameOf(path);
   std::error_code ignored;
-  // Some standard libraries open a folder and find it empty.
+  // Some standard libraries open a folder as if it were an empty file.
   if (std::filesystem::is_directory(path, ignored)) throw IniError(name, 0, "cannot be read");
   std::ifstream file(path, std::ios::binary);
-  // One byte more than it may have: a file that never ends is too large, too.
+  // Reads one byte more than is allowed, which shows that a file is too large, even if it never ends.
   std::string text(LargestSize + 1, '\0');
   if (file) file.read(text.data(), static_cast<std::streamsize>(text.size()));
   if (file.bad() || !file.is_open()) throw IniError(name, 0, "cannot be read");

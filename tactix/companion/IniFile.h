@@ -15,7 +15,7 @@ namespace tactix::companion {
 /// What is wrong with an INI file. The description names file and line: "strategies.ini:12: expected 'key = value'".
 class TACTIX_EXPORT IniError : public Error {
  public:
-  /// The code of all of them.
+  /// The code of all these errors.
   static constexpr std::int32_t InvalidFileFormat = 321;
 
   /// Line 0 is the file as a whole: "strategies.ini: cannot be read".

@@ -33,7 +33,7 @@ constexpr NumberRange CountNumbers{"Count", "count system", IniStrategyCatalogue
 
 std::string SectionName(std::string_view kind, int number) { return std::string(kind) + " " + std::to_string(number); }
 
-/// What the number in a section's name comes to, counted from the lowest.
+/// The index of the number in a section's name, counted from the lowest number.
 std::size_t IndexOf(const IniFile& file, const IniSection& section, std::string_view text, const NumberRange& range) {
   const std::optional<int> number = ToNumber(text);
   if (!number || *number < range.lowest || *number > range.highest) {

@@ -62,7 +62,7 @@ std::optional<int> ToRank(HandKind kind, std::string_view text) {
   const std::optional<int> rank = ToNumber(text);
   const KindText& limits = KindTexts[IndexOf(kind)];
   if (!rank || *rank < limits.lowest || *rank > limits.highest) return std::nullopt;
-  if (kind == HandKind::Pair && *rank == PlayingTable::Ace) return std::nullopt;  // aces are written A
+  if (kind == HandKind::Pair && *rank == PlayingTable::Ace) return std::nullopt;  // aces are written A, not as a number
   return rank;
 }
 

@@ -24,7 +24,8 @@ PlayingEntry ReadPlayingEntry(const IniFile& file, const IniSection& section) {
 
 BettingEntry ReadBettingEntry(const IniFile& file, const IniSection& section) {
   const StrategySection read = ReadStrategySection(file, section, {"plan"});
-  // The presence digit comes first: a "\" in its place is no digit, and ends the fill of a betting list.
+  // The digit must come first: betting lists take the first character as the flag, and a "\" there would end their
+  // fill.
   const std::string ending = std::string(read.present ? "1" : "0") + (read.shifted ? "\\" : "");
   BettingEntry entry{DescriptionOf(file, read, ending), read.caption, {}, section.line};
   if (const IniEntry* const plan = section.Find("plan")) entry.plan.emplace(file, *plan);

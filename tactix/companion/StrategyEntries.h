@@ -9,8 +9,8 @@
 
 namespace tactix::companion {
 
-/// The sections of a strategy file as the catalogue keeps them. The description is the text that a list takes apart,
-/// and is empty in an entry that the file does not have.
+/// The sections of a strategy file as the catalogue keeps them. The description is the text that a list takes apart; it
+/// is empty for a number that the file does not have.
 struct PlayingEntry {
   std::string description;
   std::string caption;

@@ -74,7 +74,7 @@ StrategySection ReadStrategySection(const IniFile& file, const IniSection& secti
 
 std::string DescriptionOf(const IniFile& file, const StrategySection& section, std::string_view ending) {
   std::string description = section.texts + std::string(ending);
-  // The lists find the end of the last flag by a blank that the buffer pads with.
+  // At least one blank of padding must remain in the lists' buffer: it ends the last flag.
   if (CountUtf8(description) >= DescriptionBuffer::Width) {
     file.Fail(section.captionLine, "caption and note are too long together");
   }

@@ -17,11 +17,12 @@ struct StrategySection {
   int captionLine = 0;
 };
 
-/// Refuses a section with keys other than those and `ownKeys`, which its kind has besides.
+/// Refuses keys other than those four and `ownKeys`, the keys of its kind of strategy.
 StrategySection ReadStrategySection(const IniFile& file, const IniSection& section,
                                     std::initializer_list<std::string_view> ownKeys);
 
-/// The texts and what the kind of strategy has behind them. Refuses a description that is too long for a list.
+/// The whole description: the section's texts, then `ending`, which depends on the kind of strategy. Refuses a
+/// description that is too long for a list.
 std::string DescriptionOf(const IniFile& file, const StrategySection& section, std::string_view ending);
 
 }  // namespace tactix::companion

@@ -17,14 +17,14 @@ class TACTIX_EXPORT CardCountDisplayBox : public Control {
   explicit CardCountDisplayBox(Site& site);
   ~CardCountDisplayBox() override;
 
-  /// Which count it is, noCountBox by default; saved and notified. Setting it, the same one too, repaints the box: the
-  /// tag takes the type's text and colour (a number that is no type leaves it as it is), the value the shadow box's
-  /// colour.
+  /// Which count it is, noCountBox by default; saved and notified. Setting it, even to the value it has, repaints the
+  /// box: the tag takes the type's text and colour (a number that is no type leaves it as it is), the value the shadow
+  /// box's colour.
   Coded<TypeOfCountBox> CountBoxType() const { return countBoxType_; }
   void CountBoxType(Coded<TypeOfCountBox> type);
-  /// Shows a value; any number is one.
+  /// Shows a value, which may be any number.
   void CountValue(Coded<CardCountDisplayValueRanges> value);
-  /// The colour behind the value, white for 0. Shows at the next repaint only.
+  /// The colour behind the value, white for 0. Shown only at the next repaint, that is when CountBoxType is set.
   void ShadowBoxStatus(Coded<ShadowBoxingConstants> status) { shadowBoxStatus_ = status; }
 
   /// The tag's colours; system colours by default. Not saved.

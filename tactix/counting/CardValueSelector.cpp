@@ -72,11 +72,11 @@ void CardValueSelector::CardNumber(std::int32_t card) {
 }
 
 void CardValueSelector::SelectedValue(std::int32_t value) {
-  // Only what the setter takes is positive; the list offers more.
+  // Code may set 1 to 10 only, although the list offers -10 to 10: meant.
   if (value < 1 || value > HighestValue) return;
   const Weak<CardValueSelector> self(this);
   selectedValue_ = value;
-  // The player's choice comes before the host's: the list stays where it is, and the value becomes its row's.
+  // Replaces the value just set by the selected row's: the player's choice wins over the host's, deliberately.
   TakeThePick();
   if (self) PositionTheList();
 }
@@ -95,14 +95,14 @@ void CardValueSelector::PositionTheList() {
 }
 
 void CardValueSelector::RestoreValue(std::int32_t value) {
-  // A value that has no row fails with 380, also where its row's number would not fit.
+  // A value above the last row fails with 380 here, before its row is worked out and might overflow.
   if (value > HighestValue) throw Error(Error::InvalidPropertyValue);
   widgets_.list.ListIndex(value - FirstRowsValue);
 }
 
 void CardValueSelector::RestoreCard(std::int32_t card) {
   cardNumber_ = card;
-  // Digits here, for the ace and the ten too.
+  // Digits, even for the ace and the ten: meant.
   widgets_.card.Caption(std::to_string(card));
 }
 

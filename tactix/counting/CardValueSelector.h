@@ -16,8 +16,8 @@ namespace tactix {
 /// What the selectors of a card's value have in common: a drop-down list from which the player picks the value, -10 to
 /// +10, of the card beside it. Row r of the list stands for the value r - 10; no row is selected in a new one.
 ///
-/// The card is ace (1) to ten (10), the ace by default; setting other numbers does nothing. It is restored as it was
-/// saved, and shown in digits then, where setting it shows an "A" and a "T".
+/// The card is ace (1) to ten (10), the ace by default; setting other numbers does nothing. Setting it shows an ace as
+/// "A" and a ten as "T"; restoring it sets any number and shows it in digits.
 ///
 /// The value is the one that was picked, 0 at first. Setting it takes 1 to 10 only, and reports what the list shows,
 /// -11 for no row, instead of the number that was set: a host cannot move the list. With a row selected it reports
@@ -58,7 +58,7 @@ class TACTIX_EXPORT CardValueSelector : public Control {
   static constexpr std::string_view CardValueName = "CardValue";
   static constexpr std::int32_t DefaultCard = 1;
   static constexpr std::int32_t DefaultValue = 0;
-  /// How the two properties come back: as they were saved, past what the setters take.
+  /// Restore the two properties as they were saved, without the setters' rules.
   void RestoreValue(std::int32_t value);
   void RestoreCard(std::int32_t card);
 

@@ -8,8 +8,8 @@
 
 namespace tactix {
 
-/// The number behind a spin counter, and the rules by which it is stepped: what happens at its ends is up to it. A host
-/// may supply its own. Any operation may fail with an Error.
+/// The number behind a spin counter, and the rules by which it is stepped. What happens at its ends is up to this
+/// object. A host may supply its own. Any operation may fail with an Error.
 class TACTIX_EXPORT CounterValueObject {
  public:
   using Factory = std::function<std::shared_ptr<CounterValueObject>()>;

@@ -17,7 +17,7 @@ class TACTIX_EXPORT DualCardCountDisplay : public Control {
 
   void TrueCountValue(Coded<CardCountDisplayValueRanges> value);
   void RunningCountValue(Coded<CardCountDisplayValueRanges> value);
-  /// Of both boxes, the running count's first; each shows it at its next repaint only.
+  /// Sets it for both boxes, the running count's first. Each shows it only at its next repaint.
   void ShadowBoxStatus(Coded<ShadowBoxingConstants> status);
 
   void Resized() override;

@@ -35,7 +35,7 @@ constexpr float SpinTopOfTopMount = 360;
 
 constexpr float SizeOfFont = 12;
 
-/// Whole-number division, of the nearest whole number.
+/// Half of the nearest whole number, as a whole-number division gives it.
 float HalfOf(float length) { return std::trunc(std::nearbyint(length) / 2); }
 
 }  // namespace
@@ -45,7 +45,7 @@ SpinCounter::SpinCounter(Site& site) : Control(site) {
   Extender().DesignSize(FixedWidth, StandardHeight);
   Label& label = Children.labelCardsInStack;
   SpinButton& spin = Children.SpinButton;
-  // The number is in front: mounted at the bottom, the two overlap.
+  // The number is added last and so lies in front: with BottomMountSpinCounter the two may overlap.
   Extender().Add(spin, "SpinButton");
   Extender().Add(label, "labelCardsInStack");
   label.Caption("(###)");
@@ -74,7 +74,7 @@ std::int16_t SpinCounter::CounterValue() { return std::as_const(*ValueObject()).
 template <class Step>
 void SpinCounter::Change(const Step& step) {
   const Weak<SpinCounter> self(this);
-  // Kept until the step has returned: the value is the host's, and may end the control.
+  // Kept alive until the step has returned, because the host's value may destroy the control.
   const std::shared_ptr<CounterValueObject> value = ValueObject();
   if (!self) return;
   step(*value);
@@ -87,7 +87,7 @@ void SpinCounter::CounterValue(std::int16_t value) {
 }
 
 void SpinCounter::StepUp() {
-  // Up is up: neither wrapping nor negative numbers make a difference here.
+  // NumberWrap and AllowNegNumbers make a difference for stepping down only.
   Change([this](CounterValueObject& object) { object.StepUpToLimit(maximumLimit_); });
 }
 
@@ -157,7 +157,7 @@ void SpinCounter::ResetSizeToDefault() {
   const Weak<SpinCounter> self(this);
   defaultHeight_ = StandardHeight;
   HeightInTwips(StandardHeight);
-  // Also where that was the height before.
+  // Also needed where the height was the same before, as nothing has resized then.
   if (self) Resized();
 }
 
@@ -174,12 +174,12 @@ void SpinCounter::LayOut() {
       spin.Place(LabelWidth, 0, SpinWidth, spin.Height());
       break;
     case Handedness::TopMountSpinCounter:
-      // Far below the number: a host that mounts it at the top makes the control as high as that.
+      // 360 pixels down, far below the number: meant. A host that uses this layout makes the control that high.
       label.Place(0, 0, label.Width(), HalfOf(Extender().ScaleHeight()));
       spin.Place(0, SpinTopOfTopMount, label.Width(), spin.Height());
       break;
     case Handedness::BottomMountSpinCounter:
-      // The height is taken as it stands, in pixels.
+      // The height is in twips, but its number is used as pixels: meant.
       label.Place(0, defaultHeight_, label.Width(), label.Height());
       spin.Place(0, 0, label.Width(), spin.Height());
       break;
@@ -215,12 +215,12 @@ void SpinCounter::InitProperties() {
   controlHandedness_ = Handedness::RighHandSpinCounter;
   defaultHeight_ = StandardHeight;
   TakeAmbientColors();
-  // A height beyond a 16-bit number leaves the standard one.
+  // A height that does not fit into 16 bits leaves the standard one.
   IgnoringErrors([this] { defaultHeight_ = Variant(HeightInTwips()).ToInteger(); });
 }
 
 void SpinCounter::Terminated() {
-  // Out of the member first: the host's value may look at the control as it ends.
+  // The member is emptied first: the destructor of the host's value may still use the control.
   std::exchange(value_, nullptr).reset();
   Control::Terminated();
 }

@@ -16,8 +16,8 @@
 namespace tactix {
 
 /// A whole number that the player steps up and down, shown as three digits in brackets: a count, or the cards in a
-/// stack. The number lives in a CounterValueObject, which is created on first use; where nothing creates one, all that
-/// needs it fails with 91. A restored number is shown from its first change on.
+/// stack. The number lives in a CounterValueObject, which is created on first use; where nothing creates one, whatever
+/// needs it fails with 91. A restored number is shown only after its first change.
 ///
 /// Setters ignore what is out of their range.
 class TACTIX_EXPORT SpinCounter : public Control {
@@ -29,17 +29,18 @@ class TACTIX_EXPORT SpinCounter : public Control {
   /// announced and reported.
   std::int16_t CounterValue();
   void CounterValue(std::int16_t value);
-  /// 1 to 999; 999 by default. Restored as it was saved, in that range or not.
+  /// 1 to 999; 999 by default. A saved one is restored even if it is outside that range.
   std::int16_t MaximumLimit() const { return maximumLimit_; }
   void MaximumLimit(std::int16_t limit);
-  /// Whether stepping down goes on from the lower end at MaximumLimit; false by default. Neither saved nor announced.
+  /// Whether stepping down from the lower end goes on at MaximumLimit; false by default. Neither saved nor announced.
   /// Stepping up never wraps.
   bool NumberWrap() const { return numberWrap_; }
   void NumberWrap(bool wrap) { numberWrap_ = wrap; }
   /// Whether numbers below 0 are allowed; false by default. Turning it off leaves the number as it is.
   bool AllowNegNumbers() const { return allowNegNumbers_; }
   void AllowNegNumbers(bool allow);
-  /// Where the number and the spin button stand, RighHandSpinCounter by default. A number that is no row beeps.
+  /// Where the number and the spin button stand, RighHandSpinCounter by default. Setting any other number changes
+  /// nothing and beeps.
   Coded<SpinCounterPossibilities> ControlHandedness() const { return controlHandedness_; }
   void ControlHandedness(Coded<SpinCounterPossibilities> handedness);
   /// The number's font, "Comic Sans MS" as designed; a saved one defaults to the ambient font.
@@ -56,7 +57,7 @@ class TACTIX_EXPORT SpinCounter : public Control {
   void Resized() override;
   void AmbientChanged() override;
   void Terminated() override;
-  /// Restoring changes no more than what is read: it raises nothing, and announces AllowNegNumbers only.
+  /// Restoring raises no event and notifies AllowNegNumbers only.
   const PropertyTable& Properties() const override;
   const MethodTable& Methods() const override;
 

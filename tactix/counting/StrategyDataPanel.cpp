@@ -31,9 +31,9 @@ void ShowClumpType(StrategyDataPanel& panel, const Variant& value) {
   panel.Children.datClumpType.Caption(panel.GetClumpStuff(clumpType.ToInteger()));
 }
 
-/// A count of hands as its shortest decimal text says it: 0.1 in a single is no longer a bit more than that.
+/// The double with the same shortest decimal text, so that 0.1F becomes 0.1 and not 0.100000001490116.
 double AsItsTextSays(float hands) {
-  // These have no text that reads back; they fail as the division by them would.
+  // Infinity and NaN have no text that can be read back; they fail as the division by them would.
   if (!std::isfinite(hands)) throw Error(Error::Overflow);
   return Variant(Variant(hands).ToText()).ToDouble();
 }
@@ -89,7 +89,7 @@ void StrategyDataPanel::HereIsSomeStrategyDataBlockData(const ObjectRef& aStrate
   const Weak<StrategyDataPanel> self(this);
   const ObjectRef block = aStrategyDataBlock ? aStrategyDataBlock : DefaultStrategyData::Create();
   if (!self) return;
-  // The old block goes last: it may be the last thing that keeps the host's, and the panel.
+  // The old block is released last, because that may destroy the panel.
   const ObjectRef old = std::exchange(ownBlock_, block);
   Display(block);
 }
@@ -107,7 +107,7 @@ void StrategyDataPanel::StrategyDataBlockData(const ObjectRef& block) {
 }
 
 void StrategyDataPanel::Display(const ObjectRef& block) {
-  // Kept, since any read may run code of the host's: it may give the panel another block, or destroy it.
+  // A second owner: each read may run host code, which may give the panel another block or destroy it.
   const ObjectRef data = block;
   if (!data) throw Error(Error::ObjectNotSet);
   const Weak<StrategyDataPanel> self(this);

@@ -19,8 +19,8 @@ class TACTIX_EXPORT UnitSelectionList : public Control {
   void Resized() override;
 
   struct EventSet {
-    /// Carries the row, 0 for one unit: a row, and not a UnitsSelectedPosibilities number of units. What the handler
-    /// writes to it is ignored.
+    /// Carries the selected row, which is one less than the number of units: 0 for one unit. What the handler writes to
+    /// it is ignored.
     Event<std::int16_t&> UnitSizeSelected{1, "UnitSizeSelected"};
 
     auto All() { return std::tie(UnitSizeSelected); }

@@ -55,7 +55,7 @@ void AdviceButton::BuildMenu() {
 }
 
 void AdviceButton::Arrange() {
-  // The open list takes the lower half; the button has the rest, or all.
+  // An open list takes the lower half; otherwise the button has all the room.
   tactix::Extender& list = Children.StrategyListBox.Extender();
   const float width = Extender().ScaleWidth();
   const float height = Extender().ScaleHeight();

@@ -19,7 +19,7 @@ constexpr float HalfRound = 0.2F;
 Blinker::Blinker(Control& control, Timer& timer)
     : control_(control),
       timer_(timer),
-      // The tick leaves the timer running; the next wait restarts it by setting its interval.
+      // The timer is left running after the tick; setting its interval restarts it for the next wait.
       tick_(timer.Tick.Connect([this] { elapsed_ = true; })) {}
 
 bool Blinker::Wait(float seconds) {
@@ -34,7 +34,7 @@ bool Blinker::Wait(float seconds) {
 
 bool Blinker::Flash(const ObjectRef& element) {
   if (!element) throw Error(Error::ObjectNotSet);
-  // A copy: what was passed may belong to the control.
+  // A copy: the reference may be to a member of the control, which may be destroyed during the flash.
   const ObjectRef kept = element;
   const Weak<Control> control(control_);
   if (!PutOffAndOn(*kept, "Visible")) return false;

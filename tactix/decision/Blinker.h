@@ -10,7 +10,7 @@
 
 namespace tactix {
 
-/// Waits on a control's blink timer while the user interface goes on running, and flashes elements that way.
+/// Waits on a control's blink timer while the user interface goes on running, and flashes elements with such waits.
 class TACTIX_EXPORT Blinker {
  public:
   Blinker(Control& control, Timer& timer);

@@ -14,7 +14,7 @@ namespace {
 constexpr double FixedTwipsPerPixel = 12;
 constexpr float MenuOffset = 21;
 
-/// A row of AllowAdvice: place of the advice button, and whether it goes to the front right after sizing.
+/// The advice button's place for a value of AllowAdvice, and whether it goes to the front right after sizing.
 struct AdviceSize {
   AdviceButtonAppearance appearance;
   float left;
@@ -117,7 +117,7 @@ void Decision::SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& u
 }
 
 void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
-  // Any read may run code of the host's: it may destroy the box, or set it up for another hand.
+  // Each read may run host code, which may destroy the box or set it up for another hand.
   const Weak<Decision> self(this);
   edition_ = edition;
   std::string text = std::move(scratch_);
@@ -153,7 +153,7 @@ void Decision::SetupButtons(const BlockReader& block) {
   if (self) Children.SplitButton.Visible(split);
   const bool surrender = offered(BlockField::SurrenderIsValid);
   if (self) Children.SurrenderButton.Visible(surrender);
-  // Both are read: an object that lacks the second fails even where the first allows the play.
+  // Both are always read: an object that lacks the second must fail even where the first one allows the play.
   const bool hardDouble = offered(BlockField::HardDoubleIsValid);
   const bool softDouble = offered(BlockField::SoftDoubleIsValid);
   if (self) Children.DoubleButton.Visible(hardDouble || softDouble);
@@ -164,7 +164,7 @@ void Decision::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDC
 void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
 void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
 void Decision::Decode(const BlockReader& block) {
-  // Kept, since reading a host's object may destroy the box.
+  // A second owner: reading a host's object may destroy the box, and the copy must outlive the reading.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
   DecodeBlock(block, *copy);
 }
@@ -345,7 +345,7 @@ void Decision::OpenMenu(PushButton& button, Menu& menu) {
 }
 
 void Decision::OptionsMoved() {
-  // The user slides from an open menu to this one.
+  // While the menu of another button is open, moving onto the options button opens the options menu instead.
   if (Children.mnuHoleCard.IsOpen() || Children.mnuTensRatio.IsOpen()) {
     OpenMenu(Children.cmdOptions, Children.mnuOptions);
   }

@@ -33,15 +33,15 @@ struct DecisionPlay;
 /// hands it a decision block for each hand; the box reports what the player does and judges nothing.
 ///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties. They
-/// fail with 424 for a variant without an object, 91 for a null one, 438 for a property that the object lacks, and as
-/// its values fail to convert; steps already done stay done.
+/// fail with 424 for a variant that holds no object, 91 for a null object, 438 for a property that the object lacks,
+/// and with 6, 13 or 94 for a value that does not convert. What was done before a failure stays done.
 class TACTIX_EXPORT Decision : public Control {
  public:
   explicit Decision(Site& site);
   ~Decision() override;
 
   /// The size of the advice button; 0 until it is set. Any number is kept; only the three rows size the button. Each
-  /// write makes the advice button the default one and puts it below the others, above the three buttons beside it.
+  /// write makes the advice button the default button and puts it behind all others but the three beside it.
   Coded<AdviceButtonAppearance> AllowAdvice() const { return allowAdvice_; }
   void AllowAdvice(Coded<AdviceButtonAppearance> appearance);
   /// The layout, forUseWithDrills by default. Any number is kept; only the two rows change anything.
@@ -51,7 +51,7 @@ class TACTIX_EXPORT Decision : public Control {
   /// The one call that a host needs for each decision: copies the block, shows the plays that it allows and its prompt.
   void SetupTheDecisionBox(const Variant& thisDCB);
   void SetupTheDecisionBox(const DecisionBlock& thisDCB);
-  /// Sets up from the block that is handed over, not from the copy, and keeps the edition object for Show.
+  /// Sets up without copying the block, and keeps the edition object for Show.
   void SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition);
   void SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition);
   /// Under manual restrictions shows Split, Surrender and Double when they are legal, otherwise all three.
@@ -72,11 +72,11 @@ class TACTIX_EXPORT Decision : public Control {
 
   /// Moves the control to the middle of the screen.
   void CenterYourSelf();
-  /// Calls "Show" of the edition object, which may write to the flag. Fails with 91 without one.
+  /// Calls "Show" of the edition object, which may write to the flag. Fails with 91 without an edition object.
   void Show(std::int16_t& modalFlag);
 
-  /// Fixed at 12 twips to the pixel on both axes, whatever the screen has. Rounded half to even; fails with 6 outside
-  /// 16 bits and as the value fails to convert.
+  /// Fixed at 12 twips to the pixel on both axes, whatever the screen has. Rounded half to even. Fails with 6 where the
+  /// result does not fit into 16 bits, and with the error of a value that does not convert.
   std::int16_t ConvertFromPixelsToTwipsX(const Variant& cValue) const;
   std::int16_t ConvertFromPixelsToTwipsY(const Variant& cValue) const;
   std::int16_t ConvertFromTwipsToPixelsX(const Variant& cValue) const;
@@ -93,12 +93,13 @@ class TACTIX_EXPORT Decision : public Control {
   /// Waits that many seconds while the user interface goes on running. A negative or non-finite time fails with 380.
   void BlinkTime(float timeAmount);
 
-  /// Reads the box's prompt state, false by default; writing sets PromptPlayButtons of the copied block only.
+  /// Reading gives the box's prompt state, false by default. Writing leaves that state alone and sets PromptPlayButtons
+  /// of the copied block: odd, but meant.
   bool PromptThePlayButtons() const { return promptState_; }
   void PromptThePlayButtons(bool prompt);
   /// PromptPlayButtons of the copied block.
   bool PlayButtonPromptStatus() const { return decodedDCB_->PromptPlayButtons(); }
-  /// Turns prompting over: while it is on, moving over a play button shows its name above it.
+  /// Switches the prompt state. While it is on, moving the mouse over a play button shows the button's name above it.
   void DiddleThePromptShit();
 
   /// The box's tool tip, empty by default.
@@ -110,13 +111,13 @@ class TACTIX_EXPORT Decision : public Control {
   std::string Qualifier() const;
   void Qualifier(std::string_view ignored);
 
-  /// Raises the hit-card prediction of a shift state: Shift high, Ctrl low, Ctrl+Shift unknown, Alt mid; others
-  /// nothing.
+  /// Raises the hit-card prediction of a shift state: Shift high, Ctrl low, Ctrl+Shift unknown, Alt mid. Any other
+  /// state raises nothing.
   void PredictTheHitCard(std::int16_t predictionKeys);
   /// Shows that prediction's name in the description box; other shift states leave its text alone.
   void DisplayHitcardSetting(std::int16_t shiftKeys);
-  /// Shows the description box at a left edge in twips, with a button's name or the prediction of the shift state. The
-  /// button number is not used.
+  /// Shows the description box at a left edge in twips, with the prediction of the shift state or, where it has none,
+  /// the button's text. The button number is not used.
   void SetDescriptionBoxState(std::int16_t buttonNumber, std::int16_t shiftKeys, std::int16_t leftPosition,
                               std::string_view buttonText);
   void ClearButtonDescriptionBox();

@@ -30,7 +30,8 @@ void DecisionBAR2::BuildMenu() {
   for (const Item& item : items) {
     Children.menuDecisionBarSettings.Add(item.entry);
     if (!item.state) continue;
-    // The buttons follow when the host next sets the property, and nobody is told: only saving sees it.
+    // Only changes what will be saved, deliberately: the buttons follow when the host next sets the property, and no
+    // notice is sent.
     item.entry.Chosen.Connect([&entry = item.entry, state = item.state] {
       entry.Checked(!entry.Checked());
       *state = entry.Checked() ? ButtonStatusPossibilities::ButtonsArevisible

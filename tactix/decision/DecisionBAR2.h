@@ -13,7 +13,7 @@ class TACTIX_EXPORT DecisionBAR2 : public DecisionToolBarControl {
   explicit DecisionBAR2(Site& site);
   ~DecisionBAR2() override;
 
-  /// Unpress the three buttons of a group that name a value; the record and "? ?" stay as they are.
+  /// Unpress the group's Low, Mid and High buttons. Its "? ?" button and the player's predictions stay as they are.
   void ResetTheHitcardPredictionButtons();
   void ResetTheHoleCardPredictionButtons();
 

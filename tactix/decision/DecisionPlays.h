@@ -5,7 +5,7 @@
 
 namespace tactix {
 
-/// What a play is in a decision box: its button and its event.
+/// A play's button and event in a decision box.
 struct DecisionPlay {
   const Play& play;
   PushButton Decision::ChildWidgets::*button;

@@ -16,7 +16,7 @@ namespace {
 
 using Status = Coded<ButtonStatusPossibilities>;
 
-// Twips. The captions stand below the pictures in a row, and beside them in a column.
+// Twips. In a row the captions stand below the pictures, in a column beside them, so it is thicker.
 constexpr float DesignWidth = 14400;
 constexpr float DesignHeight = 900;
 constexpr float RowThickness = 900;
@@ -26,8 +26,8 @@ constexpr auto Bottom = static_cast<std::int32_t>(DecisionBARAlignment::DBAlignB
 
 constexpr std::string_view AlignmentName = "Alignment";
 
-/// Under which names the visibilities are saved and announced, in the order of the groups. They differ from some of the
-/// members': saved forms know them.
+/// The names under which the visibilities are saved and notified, in the order of ButtonGroup. Some differ from the
+/// property's own name: saved forms rely on them.
 constexpr std::string_view VisibilityNames[] = {"HitcardButtonsVisibility", "HoleCardButtonsVisibility",
                                                 "TensRatioButtonsVisibility", "DealerStrengthButtonsVisibility",
                                                 "StatusButtonVisibility"};
@@ -161,14 +161,15 @@ void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, cons
 }
 
 void DecisionToolBarControl::SetupBar(const BlockReader& block) {
-  // Any read may run code of the host's: it may destroy the bar, or set it up for another hand.
+  // Each read may run host code, which may destroy the bar or set it up for another hand.
   const Weak<DecisionToolBarControl> self(this);
   SetupButtons(block);
   if (!self) return;
   const std::int16_t advice = block.Value(BlockField::StrategyAdvice).ToInteger();
   if (!self) return;
   advisedDecision_ = advice;
-  // Out of the member while it is raised: a handler may set up the next hand.
+  // Taken out of the member, which only keeps the memory for the next prompt, because a handler may set up another
+  // hand.
   std::string prompt = std::exchange(prompt_, {});
   prompt.clear();
   AppendDecisionPrompt(block, prompt);
@@ -187,7 +188,7 @@ void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
   if (self) Button(KeyOf(AdvicePossibilities::SplitAdvised)).Enabled(split);
   const bool surrender = legal(BlockField::SurrenderIsValid);
   if (self) Button(KeyOf(AdvicePossibilities::SurrenderAdvised)).Enabled(surrender);
-  // Both are read: an object that lacks the second fails even where the first allows the play.
+  // Both are always read: an object that lacks the second must fail even where the first one allows the play.
   const bool hardDouble = legal(BlockField::HardDoubleIsValid);
   const bool softDouble = legal(BlockField::SoftDoubleIsValid);
   if (self) Button(KeyOf(AdvicePossibilities::DoubleAdvised)).Enabled(hardDouble || softDouble);
@@ -198,7 +199,7 @@ void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { Decode
 void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
 void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
 void DecisionToolBarControl::Decode(const BlockReader& block) {
-  // Kept, since reading a host's object may destroy the bar.
+  // A second owner: reading a host's object may destroy the bar, and the copy must outlive the reading.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
   DecodeBlock(block, *copy);
 }
@@ -297,7 +298,7 @@ void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
 
 const PropertyTable& DecisionToolBarControl::Properties() const {
   using Self = DecisionToolBarControl;
-  // The buttons stay as they are until the host sets a visibility.
+  // Restoring only stores a visibility: the buttons stay as they are until the host sets it.
   const auto into = [](ButtonGroup group) {
     return PropertyTable::SetBy([group](Self& self, Status visibility) { self.VisibilityState(group) = visibility; });
   };

@@ -28,8 +28,8 @@
 
 namespace tactix {
 
-/// The groups of buttons that a host shows and hides as a whole. The status button is a group of its own, and the only
-/// one that predicts nothing.
+/// The groups of buttons that a host shows and hides as a whole. The statistics button is a group of its own, the only
+/// one without predictions.
 enum class ButtonGroup { HitCard, HoleCard, TensRatio, DealerStrength, Status };
 
 /// What the two decision toolbars have in common: a strip of play buttons and prediction groups that the host docks to
@@ -37,17 +37,17 @@ enum class ButtonGroup { HitCard, HoleCard, TensRatio, DealerStrength, Status };
 /// nothing.
 ///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties, and
-/// fail as the ones of Decision do.
+/// fail with the same errors as those of Decision.
 class TACTIX_EXPORT DecisionToolBarControl : public Control {
  public:
   ~DecisionToolBarControl() override;
 
-  /// The docking of the toolbar, bottom by default; any number is kept, and one that is no edge docks nowhere. Saved as
-  /// bottom whatever it is.
+  /// The docking of the toolbar, bottom by default; any number is kept, and one that is no edge puts the toolbar at the
+  /// top. Saved as bottom whatever it is, deliberately.
   Coded<DecisionBARAlignment> Alignment() const;
   void Alignment(Coded<DecisionBARAlignment> alignment);
   /// Whether a group's buttons are shown: any number but 0. 0 by default, although all buttons are designed visible: a
-  /// group follows its property from the first time that it is set.
+  /// group follows its property only once that is set.
   Coded<ButtonStatusPossibilities> HitcardButtonsVisibility() const { return Visibility(ButtonGroup::HitCard); }
   void HitcardButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
     Visibility(ButtonGroup::HitCard, visibility);
@@ -66,7 +66,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void DealerStrengthButtonsVisibility(Coded<ButtonStatusPossibilities> visibility) {
     Visibility(ButtonGroup::DealerStrength, visibility);
   }
-  /// Re-applies the dealer-strength buttons and returns 0 whatever was set; saved forms rely on it.
+  /// Reading it applies the dealer-strength visibility again and gives 0 whatever was set: odd, but saved forms rely on
+  /// it.
   Coded<ButtonStatusPossibilities> StatusButtonButtonVisibility();
   void StatusButtonButtonVisibility(Coded<ButtonStatusPossibilities> visibility) {
     Visibility(ButtonGroup::Status, visibility);
@@ -96,7 +97,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   /// Reads the object's "thisKelvoEdition"; null fails with 91.
   void TheKelvoEditionIs(const ObjectRef& theShortKelvoEdition);
 
-  /// The one call that a host needs for each hand: copies the block, sees to it that there is an edition, and does what
+  /// The one call that a host needs for each hand: copies the block, creates an edition if there is none, and does what
   /// SetupDecisionBAR does.
   void SetupTheDecisionBAR(const Variant& thisDCB);
   void SetupTheDecisionBAR(const DecisionBlock& thisDCB);
@@ -117,7 +118,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   bool ResetPredictionButtons() const { return resetPredictionButtons_; }
   void ResetPredictionButtons(bool reset) { resetPredictionButtons_ = reset; }
   void GetReadyForADecision();
-  /// Clears the record and unpresses the prediction buttons, the two "? ?" ones excepted.
+  /// Clears the player's predictions and unpresses the prediction buttons, except the two "? ?" ones.
   void ResetYourResponseData();
   /// The player's predictions; 0 in a field that was not predicted.
   DecisionBARResponseObject GiveMeYourResponseData() const { return response_; }
@@ -127,7 +128,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   /// Waits that many seconds while the user interface goes on running. A negative or non-finite time fails with 380.
   void BlinkTime(const float& timeAmount);
 
-  /// A saved property that cannot be read has its default: bottom, and 0 for the visibilities.
+  /// A saved property that cannot be read takes its default: bottom, and 0 for the visibilities.
   void ReadProperties(PropertyBag& bag) override;
   void Resized() override;
   /// A property that cannot be written ends the save with the bag's error.
@@ -173,7 +174,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void Unpress(ButtonGroup group);
   void ReleaseTheBlock() { decodedDCB_ = std::make_shared<DecisionBlock>(); }
 
-  /// What is saved of a group's visibility.
+  /// A group's visibility as it is saved; its buttons may differ from it.
   Coded<ButtonStatusPossibilities>& VisibilityState(ButtonGroup group) {
     return visibilities_[static_cast<std::size_t>(group)];
   }

@@ -9,7 +9,7 @@
 
 namespace tactix {
 
-// For the rows of the plays.
+// Short for what the plays' rows below say.
 constexpr std::string_view KeyOf(AdvicePossibilities play) { return PlayOf(play).name; }
 constexpr std::string_view CaptionOf(AdvicePossibilities play) { return PlayOf(play).shortName; }
 
@@ -51,7 +51,7 @@ inline constexpr std::string_view DecisionPictures[] = {"hit",        "stand",  
                                                         "surrender",  "advice",      "hit-card",      "hole-card",
                                                         "tens-ratio", "dealer-weak", "dealer-strong", "statistics"};
 
-/// What a play is on a toolbar: its event. Its button's key is its name.
+/// A play's event on a toolbar. The key of its button is the play's name.
 struct ToolBarPlay {
   const Play& play;
   Event<> DecisionToolBarControl::EventSet::*event;
@@ -67,8 +67,8 @@ inline constexpr ToolBarPlay ToolBarPlays[] = {
 inline constexpr std::string_view AdviceKey = "Advice";
 inline constexpr std::string_view StatisticsKey = "ClumpStatistics";
 
-/// A prediction: its group, its button's key and what the record then says. Code never presses or unpresses the two
-/// unknown ones.
+/// A prediction button: its group, its key and the value that it records. The two "unknown" ones do not follow the
+/// record: code never presses or unpresses them.
 struct ToolBarPrediction {
   ButtonGroup group;
   std::string_view key;

@@ -90,11 +90,11 @@ void Decision::BuildMenus() {
     row.menu.Add(row.entry);
     if (Event<>* event = row.event) row.entry.Chosen.Connect([event] { event->Raise(); });
   }
-  // A heading and two entries that do nothing here.
+  // A heading, and two entries that have no function.
   w.mnuPrompts.Enabled(false);
   w.mnuAdjustBet.Enabled(false);
   w.mnuBackupASeat.Enabled(false);
-  // Each turns the prompt over, whatever its caption says.
+  // Either entry switches the prompt state, whatever its caption says: meant.
   w.mnuPromptOn.Chosen.Connect([this] { DiddleThePromptShit(); });
   w.mnuPromptOff.Chosen.Connect([this] { DiddleThePromptShit(); });
   CheckThePrompt(promptState_);

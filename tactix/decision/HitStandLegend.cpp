@@ -46,7 +46,7 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
   panel.ToolTipText("Click Letters or Use Keyboard to make your Decisions");
   Resized();
 
-  // Around the panel, so that the whole legend is one stop for the Tab key.
+  // On the extender and not on the labels, so that the whole legend is one stop for the Tab key.
   Extender().OnKeyDown([this](const KeyPress& key) {
     if ((key.shift & CtrlKey) != 0) return;
     if (const Line* line = RowOf(Lines, FindPlay(key.Letter()))) (Events.*line->event).Raise();

@@ -36,9 +36,9 @@ class TACTIX_EXPORT BlockReader {
 /// replaces.
 TACTIX_EXPORT void DecodeBlock(const BlockReader& from, DecisionBlock& into);
 
-/// Appends the prompt of a hand to `out`: "Ann - You have  12  - Make your Selection". Where SoftTotal is not 0 and below
-/// 11, " OR " and the hard total plus 10 follow the hard total. Reads HardTotal, SoftTotal and PlayerName in this order.
-/// `out` stays as it was on a failure.
+/// Appends the prompt of a hand to `out`: "Ann - You have  12  - Make your Selection". Where SoftTotal is not 0 and
+/// below 11, " OR " and the hard total plus 10 follow the hard total. Reads HardTotal, SoftTotal and PlayerName in this
+/// order. `out` stays as it was on a failure.
 TACTIX_EXPORT void AppendDecisionPrompt(const BlockReader& block, std::string& out);
 
 }  // namespace tactix
