@@ -5,7 +5,7 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-# Static too: a static core may end up inside a plugin.
+# For static libraries, too: a static core may end up inside a plugin.
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 if(PROJECT_IS_TOP_LEVEL)
   set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
@@ -65,7 +65,7 @@ endif()
 if(PROJECT_IS_TOP_LEVEL)
   find_program(TACTIX_CCACHE ccache)
   if(TACTIX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    # Without the sloppiness ccache passes by every source that uses a precompiled header.
+    # Without this sloppiness ccache does not cache sources that use a precompiled header.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
                                     ${TACTIX_CCACHE})
   endif()

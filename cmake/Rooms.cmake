@@ -1,4 +1,4 @@
-# A room is a folder; what is built from it is what lies in it.
+# A room is a folder, and every source file in it is built.
 
 function(tactix_glob result)
   file(GLOB found CONFIGURE_DEPENDS LIST_DIRECTORIES false ${ARGN})
@@ -10,7 +10,7 @@ function(tactix_glob_tree result)
   set(${result} ${found} PARENT_SCOPE)
 endfunction()
 
-# Worth its seconds where a target has many sources.
+# Building a precompiled header takes seconds, so it is worth it only for a target with many sources.
 function(tactix_precompile target)
   if(TACTIX_PCH)
     target_precompile_headers(${target} PRIVATE ${ARGN})
@@ -27,7 +27,8 @@ function(tactix_use_qt target)
   target_link_libraries(${target} PRIVATE Qt6::Widgets)
 endfunction()
 
-# A shared library names everything it needs; a sanitizer's runtime comes with the program only.
+# A shared library must be linked with everything it needs, except under a sanitizer, whose runtime is in the program
+# only.
 function(tactix_use_export target)
   string(TOUPPER ${target} prefix)
   if(BUILD_SHARED_LIBS)

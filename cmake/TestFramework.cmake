@@ -1,4 +1,4 @@
-# GoogleTest from the system where its standard library is ours, from Debian's sources where it is not.
+# The system's GoogleTest is built on libstdc++. For libc++ it is built from Debian's sources instead.
 
 if(TACTIX_LIBCXX)
   set(TACTIX_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH "GoogleTest's sources")

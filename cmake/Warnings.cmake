@@ -1,4 +1,4 @@
-# The one place that says which warnings the project's own code is held to.
+# The warnings that the project's own code is built with.
 
 option(TACTIX_WERROR "Treat warnings as errors" OFF)
 

@@ -39,7 +39,7 @@ constexpr std::uint64_t Seed = 7;
 constexpr QSize TrainerSize(960, 820);
 constexpr QSize ColumnSize(100, 660);
 constexpr int NarrowWidth = 480;
-// Twips. A mounted spin counter stands 360 pixels apart from its number.
+// Twips. The top and bottom mounts put the spin button 360 pixels away from the number.
 constexpr float SpinCounterHeight = 360;
 constexpr float MountedHeight = 400 * 15;
 
@@ -374,7 +374,7 @@ WidgetRef MakeTrainerWith() {
   for (const char* key : {"HitcardLow", "DealerStrengthWeak"}) {
     window->ToolBar().Bar().control().Children.DecisionToolBar.Button(key).Click();
   }
-  // The trainer looks at the predictions after each thing its player does.
+  // The trainer reads the toolbar's predictions after each mouse or key event.
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
   QApplication::sendEvent(window.get(), &release);
   return window;

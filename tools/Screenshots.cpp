@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int UsageError = 2;
-constexpr int SmallestFile = 0;  // as QPixmap::save counts quality
+constexpr int SmallestFile = 0;  // a quality of 0 makes QPixmap::save compress most
 
 QPalette DarkPalette() {
   struct Row {

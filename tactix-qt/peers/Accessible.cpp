@@ -12,7 +12,7 @@ namespace tactix::qt {
 
 namespace {
 
-/// A widget that is pressed, as long as it can be.
+/// A widget that a screen reader can press.
 class Pressable : public QAccessibleWidget {
  public:
   explicit Pressable(QWidget& widget) : QAccessibleWidget(&widget) {}
@@ -25,17 +25,17 @@ class Pressable : public QAccessibleWidget {
 
   void doAction(const QString& name) override {
     if (name != pressAction()) return QAccessibleWidget::doAction(name);
-    // Later: the reader waits for the answer, and a click may take its time.
+    // Queued: the screen reader waits for this call to return, and a click may take long.
     if (CanBePressed()) QMetaObject::invokeMethod(widget(), Press(), Qt::QueuedConnection);
   }
 
  protected:
   virtual bool CanBePressed() const { return widget()->isEnabled(); }
-  /// What a press does to the widget; outlives this.
+  /// What a press does to the widget. The function may run after this object is gone.
   virtual std::function<void()> Press() const = 0;
 };
 
-/// A button of a toolbar. Qt's own for it would check it without a click.
+/// A button of a toolbar. With Qt's own class for it, a press would check the button without clicking it.
 class ToolBarButton final : public Pressable {
  public:
   explicit ToolBarButton(QToolButton& button) : Pressable(button), button_(button) {}
@@ -61,7 +61,7 @@ class ToolBarButton final : public Pressable {
   QToolButton& button_;
 };
 
-/// A label; a button if it takes clicks, which a control decides after Qt has asked.
+/// A label, which is a button while it takes clicks. A control may begin to listen after Qt has created this object.
 class LabelText final : public Pressable {
  public:
   explicit LabelText(LabelPeer& label) : Pressable(label), label_(label) {}

@@ -4,7 +4,7 @@
 
 namespace tactix::qt {
 
-/// Has screen readers see what Qt would show them wrongly or not at all: the buttons of a toolbar's group are radio
+/// Tells screen readers what Qt would tell them wrongly or not at all: the buttons of a toolbar's group are radio
 /// buttons, and labels that take clicks are buttons. Calling it again changes nothing.
 TACTIX_QT_EXPORT void InstallAccessibles();
 

@@ -32,7 +32,7 @@ void ArrowButton::Step() {
 }
 
 void ArrowButton::mousePressEvent(QMouseEvent* event) {
-  // Not for good: a press by other means than the mouse, a screen reader's, is a single step.
+  // Only while the mouse holds it: a press by a screen reader is a single step.
   if (event->button() == Qt::LeftButton) setAutoRepeat(true);
   QPushButton::mousePressEvent(event);
 }
@@ -43,7 +43,8 @@ void ArrowButton::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ArrowButton::timerEvent(QTimerEvent* event) {
-  // A dialog that a step has opened gets the release of the mouse; and a step that takes its time is not run into.
+  // Repeats only while the mouse really holds it (a dialog that a step has opened gets the release), and never while a
+  // step is still running.
   const bool isHeld = stepping_ == 0 && (QGuiApplication::mouseButtons() & Qt::LeftButton);
   if (autoRepeat() && !isHeld) LetGo();
   QPushButton::timerEvent(event);

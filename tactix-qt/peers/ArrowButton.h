@@ -7,12 +7,11 @@
 
 namespace tactix::qt {
 
-/// One of a pair of buttons that step something: with an arrow instead of a text, and repeating while the
-/// mouse holds it. It steps as it is pressed, not as it is let go. Never takes the focus; it looks focused while its
-/// parent is.
+/// One of a pair of buttons for stepping a value: it shows an arrow and repeats while the mouse holds it. It steps when
+/// it is pressed, not when it is released. Never takes the focus; it looks focused while its parent is.
 class TACTIX_QT_EXPORT ArrowButton final : public QPushButton {
  public:
-  /// `step` may end the button's window; the button itself must live until it returns.
+  /// `step` may close the button's window, but the button itself must live until it returns.
   ArrowButton(Qt::ArrowType arrow, std::function<void()> step, QWidget* parent);
 
  protected:

@@ -19,7 +19,7 @@ void ContainerPeer::Update(Aspect aspect) {
 }
 
 void ContainerPeer::paintEvent(QPaintEvent*) {
-  // Not by the palette: the child widgets would inherit it.
+  // Painted here and not set in the palette, which the child widgets would inherit.
   if (Model() && !IsSystemColor(Model()->BackColor())) QPainter(this).fillRect(rect(), ToQt(Model()->BackColor()));
 }
 

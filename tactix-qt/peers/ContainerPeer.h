@@ -7,7 +7,7 @@
 
 namespace tactix::qt {
 
-/// A control as a child of another: a plain widget that holds its child widgets.
+/// A control inside another one: a plain widget that holds the child widgets.
 class TACTIX_QT_EXPORT ContainerPeer : public NativePeer<QWidget, Extender> {
  public:
   ContainerPeer(Extender& extender, QtSite& site, QWidget* parent);

@@ -24,7 +24,7 @@ void FramePeer::Update(Aspect aspect) {
 }
 
 void FramePeer::paintEvent(QPaintEvent* event) {
-  // Not by the palette: the child widgets would inherit it.
+  // Painted here and not set in the palette, which the child widgets would inherit.
   if (Model() && !IsSystemColor(Model()->BackColor())) QPainter(this).fillRect(rect(), ToQt(Model()->BackColor()));
   QFrame::paintEvent(event);
   if (!Model() || Model()->Kind() != WidgetKind::Panel) return;

@@ -7,7 +7,7 @@
 
 namespace tactix::qt {
 
-/// A panel, raised and with its caption in the middle, or a picture, flat and framed.
+/// A Panel, raised and with its caption in the middle, or a Picture, flat and framed.
 class TACTIX_QT_EXPORT FramePeer final : public NativePeer<QFrame, Widget> {
  public:
   FramePeer(Widget& widget, QtSite& site, QWidget* parent);

@@ -22,11 +22,11 @@ void GroupBoxPeer::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionGroupBox option;
   initStyleOption(&option);
-  // Colours not by the palette: the child widgets would inherit it.
+  // Colours are painted here and not set in the palette, which the child widgets would inherit.
   painter.fillRect(rect(), palette().window());
   if (Model() && !IsSystemColor(Model()->BackColor())) painter.fillRect(rect(), ToQt(Model()->BackColor()));
   if (Model() && !IsSystemColor(Model()->ForeColor())) {
-    // Styles take the one or the other.
+    // Some styles use the option's text colour, others its palette.
     option.textColor = ToQt(Model()->ForeColor());
     option.palette.setColor(QPalette::WindowText, option.textColor);
   }

@@ -17,7 +17,8 @@ qreal Luminance(const QColor& color) {
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// Black or white, whichever stands out more: the palette's text may be as light as a ground that a control has set.
+/// Black or white, whichever contrasts more with a background that a control has set: the palette's text colour might
+/// be too close to it.
 QColor TextColorOn(const QColor& ground) {
   constexpr qreal EvenContrast = 0.179;
   return Luminance(ground) > EvenContrast ? Qt::black : Qt::white;
@@ -38,7 +39,8 @@ Qt::Alignment AlignmentOf(TextAlignment alignment) {
 }  // namespace
 
 LabelPeer::LabelPeer(Label& label, QtSite& site, QWidget* parent) : NativePeer(label, site, parent) {
-  // No setWordWrap(): it wraps as it paints, and QLabel would lay every new text out for a size hint that nobody asks.
+  // No setWordWrap(): this class wraps in its own painting, and QLabel would lay out every new text for a size hint
+  // that nobody uses.
   setTextFormat(Qt::PlainText);
   setText(ToQt(label.Caption()));
   Update(Aspect::Align);
@@ -62,7 +64,7 @@ bool LabelPeer::event(QEvent* event) {
 
 void LabelPeer::mousePressEvent(QMouseEvent* event) {
   if (!IsClickable() || event->button() != Qt::LeftButton) return QLabel::mousePressEvent(event);
-  // Its control, which may map keys, gets the focus as if there were no label.
+  // The press focuses what is around the label, as if there were no label: the control may map keys.
   for (QWidget* at = parentWidget(); at; at = at->parentWidget()) {
     if (at->focusPolicy() == Qt::NoFocus || !dynamic_cast<Peer*>(at)) continue;
     return at->setFocus(Qt::MouseFocusReason);

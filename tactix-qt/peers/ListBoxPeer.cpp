@@ -22,7 +22,7 @@ ListBoxPeer::ListBoxPeer(ListBox& box, QtSite& site, QWidget* parent) : NativePe
 }
 
 void ListBoxPeer::Picked(int row) {
-  // Later: QComboBox goes on emitting after the slot that destroyed its window.
+  // Queued: QComboBox goes on emitting after this slot, and the pick may destroy the window.
   const auto pick = [this, row] {
     const HandlerScope scope;
     if (Model()) Model()->PickRow(row);
@@ -33,12 +33,12 @@ void ListBoxPeer::Picked(int row) {
 
 void ListBoxPeer::RowInserted(ListBox& box, std::int32_t row) {
   insertItem(row, ToQt(box.List(row)));
-  // Not ShowRow(): a fill would pay for it with every row. But Qt picks the first row of a list by itself.
+  // Not ShowRow(), which would slow down every fill. Only undoes that Qt selects the first row of a list by itself.
   if (currentIndex() != box.ListIndex()) setCurrentIndex(box.ListIndex());
 }
 
 void ListBoxPeer::RowsAppended(ListBox& box, std::int32_t first, std::int32_t rows) {
-  // A peer that was made in the middle has some of them.
+  // A peer that was made while the rows were added has some of them already.
   for (std::int32_t row = std::max(first, count()); row < first + rows; ++row) appended_ += ToQt(box.List(row));
   insertItems(count(), appended_);
   appended_.clear();
@@ -93,7 +93,7 @@ void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
   if (opens) {
     showPopup();
   } else {
-    // Not to QComboBox: it would change rows by itself.
+    // Kept from QComboBox, which would change the row by itself.
     event->ignore();
   }
 }
@@ -101,7 +101,8 @@ void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
 void ListBoxPeer::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ListBoxPeer::showPopup() {
-  // Not earlier: a view slows down every fill, and with its gestures every event of the process.
+  // Only now, because view() creates the view: it slows down every fill and, with its gestures, every event of the
+  // process.
   view()->setTextElideMode(Qt::ElideNone);
   const int scrollBar = count() > maxVisibleItems() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar + 2 * view()->frameWidth());

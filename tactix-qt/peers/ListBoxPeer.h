@@ -39,7 +39,7 @@ class TACTIX_QT_EXPORT ListBoxPeer final : public NativePeer<QComboBox, ListBox>
   int TextFlags() const;
 
   FittedText fitted_;
-  QStringList appended_;  // empty but for its memory, which the next fill takes
+  QStringList appended_;  // kept empty between fills, for its memory
 };
 
 }  // namespace tactix::qt

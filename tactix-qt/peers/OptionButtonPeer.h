@@ -8,8 +8,8 @@
 
 namespace tactix::qt {
 
-/// A radio button whose caption wraps and shrinks instead of being cut. Whether it is marked, and which others are not,
-/// its child widget says. It takes clicks on its whole area.
+/// A radio button whose caption wraps and shrinks instead of being cut. Its child widget decides whether it is marked;
+/// Qt does not unmark others. It takes clicks on its whole area.
 class TACTIX_QT_EXPORT OptionButtonPeer final : public NativePeer<QRadioButton, OptionButton> {
  public:
   OptionButtonPeer(OptionButton& button, QtSite& site, QWidget* parent);

@@ -19,7 +19,7 @@ namespace {
 constexpr Aspect CommonAspects[] = {Aspect::Geometry, Aspect::ToolTip, Aspect::Font,
                                     Aspect::Colors,   Aspect::Enabled, Aspect::Visible};
 
-/// As read aloud; empty for a widget that has none.
+/// The caption as read aloud; empty for a widget that has none.
 QString CaptionOf(const Widget& widget) {
   switch (widget.Kind()) {
     case WidgetKind::Label: {
@@ -82,7 +82,7 @@ void Peer::Update(Aspect aspect) {
   const Widget& widget = *widget_;
   switch (aspect) {
     case Aspect::Geometry: {
-      // Edges are rounded, not sizes, so that neighbours neither overlap nor gape.
+      // Edges are rounded, not sizes, so that neighbours neither overlap nor leave gaps.
       const float twips = widget.TwipsPerUnit();
       const int left = ToPixels(widget.Left() * twips);
       const int top = ToPixels(widget.Top() * twips);
@@ -152,7 +152,7 @@ bool Peer::Before(QEvent& event) {
       site_.FocusArrived(*widget_);
       return false;
     case QEvent::FocusOut: {
-      // A menu or another window borrows the focus: the control keeps it.
+      // A menu or another window only borrows the focus: the control still has it.
       const Qt::FocusReason reason = static_cast<QFocusEvent&>(event).reason();
       if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) site_.FocusLeft();
       return false;
@@ -200,7 +200,8 @@ MouseState Peer::StateAt(const QPointF& place, Qt::MouseButtons buttons, Qt::Key
 void Peer::MousePressed(const QMouseEvent& event) {
   if (event.button() == Qt::LeftButton && TakesClickFocus()) native_.setFocus(Qt::MouseFocusReason);
   const MouseState state = StateAt(event.position(), event.button(), event.modifiers());
-  // Qt goes on using the window after a right press, which may open a menu under which the window goes.
+  // Queued: a right press may open a menu, the window may be destroyed while it is open, and Qt uses the window
+  // afterwards.
   if (event.button() == Qt::RightButton) return Post(state);
   const HandlerScope scope;
   widget_->MouseDown(state);

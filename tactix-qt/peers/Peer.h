@@ -15,9 +15,9 @@ namespace tactix::qt {
 
 class QtSite;
 
-/// The front end's side of one child widget: carries its changes over to a native widget, and the user's doings back.
-/// Decides nothing. Every peer is its native widget at the same time, see NativePeer; it may outlive the child widget
-/// and the site, and is without effect from then on.
+/// The front end's side of one child widget: it shows the widget's changes in a native widget and passes on what the
+/// user does. It decides nothing. Every peer is also its native widget, see NativePeer. It may outlive the child widget
+/// and the site; it then does nothing.
 class TACTIX_QT_EXPORT Peer : public WidgetObserver {
  public:
   Peer(Widget& widget, QtSite& site, QWidget& native);
@@ -32,11 +32,11 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   Widget* ItsWidget() const { return widget_; }
   QWidget& Native() const { return native_; }
 
-  /// Carries everything over; for a new peer.
+  /// Shows the child widget's whole state; for a new peer.
   void ShowAll();
-  /// Cuts the tie to the child widget.
+  /// Detaches the peer from its child widget.
   void Release();
-  /// The mouse has moved over the native widget, or past something that had grabbed it.
+  /// The mouse has moved over the native widget, perhaps while an open menu has grabbed the mouse.
   void MouseMoved(const QMouseEvent& event);
 
   void Changed(Widget& widget, Aspect aspect) final;
@@ -44,21 +44,21 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
 
  protected:
   virtual void Update(Aspect aspect);
-  /// Keys beyond the letters that the child widget understands; the native widget then does not get them.
+  /// Keys other than letters that the child widget handles and the native widget must not get.
   virtual bool TakesKey(const QKeyEvent&) const { return false; }
   /// Whether a press on the native widget's own area gives it the focus.
   virtual bool TakesClickFocus() const { return false; }
-  /// Whether it keeps what the mouse does on it from its parent.
+  /// Whether it handles the mouse on it, or leaves it to its parent.
   virtual bool TakesMouse() const { return true; }
 
-  /// To call before the native widget handles an event: true when it must not.
+  /// To be called before the native widget handles an event. True: the native widget must not handle it.
   bool Before(QEvent& event);
-  /// To call when it has.
+  /// To be called when the native widget has handled an event.
   void After(QEvent& event);
 
   /// A press or a move of the mouse at a place on the native widget.
   MouseState StateAt(const QPointF& place, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) const;
-  /// Hands a press over once Qt is done with it.
+  /// Passes a press on to the child widget once Qt is done with the event.
   void Post(const MouseState& state);
 
   QtSite& ItsSite() const { return site_; }
@@ -90,7 +90,7 @@ class NativePeer : public NativeBase, public Peer {
 
   bool event(QEvent* event) override {
     if (Before(*event)) return true;
-    // Nothing of the peer is left after that one.
+    // This event deletes the widget, which is this peer, so nothing may follow it.
     if (event->type() == QEvent::DeferredDelete) return NativeBase::event(event);
     const bool handled = NativeBase::event(event);
     After(*event);

@@ -67,7 +67,7 @@ void ListInReadingOrder(const Widget& widget, std::vector<QWidget*>& natives) {
 }  // namespace
 
 void MakePeers(Widget& widget, QtSite& site, QWidget& native) {
-  // Before the first native widget: Qt keeps what it has found for one.
+  // Before the first native widget: Qt remembers what it has created for a widget.
   InstallAccessibles();
   for (Widget* child : widget.Children()) {
     if (QWidget* peer = MakePeer(*child, site, native)) MakePeers(*child, site, *peer);

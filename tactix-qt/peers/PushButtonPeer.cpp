@@ -17,7 +17,7 @@ constexpr int Margin = 2;
 }  // namespace
 
 PushButtonPeer::PushButtonPeer(PushButton& button, QtSite& site, QWidget* parent) : NativePeer(button, site, parent) {
-  // Not by the mouse: a click gives it the focus itself, after the press and not before it.
+  // A mouse press does not give it the focus: the click does, which comes after the release.
   setFocusPolicy(Qt::TabFocus);
   setAutoDefault(false);
   setText(ToQt(button.Caption()));
@@ -52,7 +52,7 @@ void PushButtonPeer::Update(Aspect aspect) {
 }
 
 bool PushButtonPeer::event(QEvent* event) {
-  // Qt would click a tenth of a second later, for the look of it.
+  // Clicks at once: Qt would show the button pressed for a tenth of a second first.
   if (event->type() == QEvent::Shortcut && !static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
     Click();
     return true;

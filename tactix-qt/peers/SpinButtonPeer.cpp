@@ -27,7 +27,7 @@ SpinButtonPeer::SpinButtonPeer(SpinButton& spin, QtSite& site, QWidget* parent)
           Qt::DownArrow, [this] { Spin(&SpinButton::SpinDown); }, this) {
   static const bool isAccessible = (QAccessible::installFactory(MakeAccessible), true);
   static_cast<void>(isAccessible);
-  // Not by the mouse: a spin gives it the focus itself.
+  // A mouse press does not give it the focus: the spin does.
   setFocusPolicy(Qt::TabFocus);
   up_.setAccessibleName(QStringLiteral("Up"));
   down_.setAccessibleName(QStringLiteral("Down"));
@@ -57,7 +57,7 @@ bool SpinButtonPeer::TakesKey(const QKeyEvent& event) const {
 
 void SpinButtonPeer::wheelEvent(QWheelEvent* event) {
   const int turn = event->angleDelta().y();
-  // A turn back does not first make up for what was left over.
+  // The unused part of a turn is dropped when the wheel turns the other way.
   if ((turn > 0) != (wheel_ > 0)) wheel_ = 0;
   wheel_ += turn;
   event->accept();

@@ -69,7 +69,8 @@ void ToolBarPeer::Add(const ToolButton& button) {
     action->setText(WholeText(button).replace(QLatin1Char('&'), QLatin1String("&&")));
     action->setIconText(ToQt(button.Caption()));
     action->setToolTip(WholeText(button));
-    // Alone in a group, so that Qt does not unpress the pressed one. What else a click presses the child widget says.
+    // In a group of its own, so that a click on a pressed button does not make Qt unpress it. The child widget decides
+    // which others are unpressed.
     (new QActionGroup(action))->addAction(action);
     connect(action, &QAction::triggered, this, [this, index] { Click(index); });
   }
@@ -100,7 +101,7 @@ QToolButton* ToolBarPeer::NativeOf(const ToolButton& button) {
   return action ? static_cast<ToolBarPeer*>(Peer::Of(button.Bar()))->NativeOf(*action) : nullptr;
 }
 
-// What the child widget says.
+// Changes of the child widget.
 
 void ToolBarPeer::Update(Aspect aspect) {
   switch (aspect) {
@@ -124,7 +125,7 @@ void ToolBarPeer::ButtonChanged(ToolBar&, ToolButton& button) {
   QAction* const action = Model() ? ActionOf(button) : nullptr;
   if (!action) return;
   QToolButton* const native = NativeOf(*action);
-  // Before Qt moves it: to wherever Tab goes, out of the bar.
+  // A button that is hidden or disabled passes the focus to its neighbour; Qt would move it out of the bar.
   if (native && native == window()->focusWidget() && !(button.Visible() && button.Enabled())) {
     if (QToolButton* neighbour = Neighbour(*native)) neighbour->setFocus(Qt::OtherFocusReason);
   }
@@ -134,13 +135,13 @@ void ToolBarPeer::ButtonChanged(ToolBar&, ToolButton& button) {
 void ToolBarPeer::ShowState(QAction& action, const ToolButton& button) {
   action.setVisible(button.Visible());
   action.setEnabled(button.Enabled());
-  // A push button that Qt could check would press itself.
+  // A push button is checkable only while it is pressed, or Qt would check it at each click.
   action.setCheckable(button.Style() == ToolButtonStyle::Group || button.Value());
   action.setChecked(button.Value());
 }
 
 void ToolBarPeer::ShowMore() {
-  // Qt's own arrows are black on every ground.
+  // Qt's own arrows are black, even on a dark background.
   more_->setIcon(PictureIcon(orientation() == Qt::Vertical ? "more-down" : "more-right", palette()));
 }
 
@@ -176,7 +177,7 @@ bool ToolBarPeer::FitsWith(const QFont& letters) {
   }
   const bool isColumn = orientation() == Qt::Vertical;
   for (QAction* action : actions_) {
-    // One width, so that the pictures stand below each other.
+    // The same width for all, so that the pictures stand below each other.
     if (QToolButton* native = NativeOf(*action)) native->setMinimumWidth(isColumn ? needed.width() : 0);
   }
   needed = needed.grownBy(layout()->contentsMargins());
@@ -224,7 +225,7 @@ void ToolBarPeer::changeEvent(QEvent* event) {
 
 void ToolBarPeer::hideEvent(QHideEvent* event) {
   QToolBar::hideEvent(event);
-  // It would stay open, and a press on its button would not come back.
+  // Otherwise the menu would stay open, and the press that opened it would not return.
   if (QMenu* menu = more_->menu()) menu->close();
 }
 
@@ -243,7 +244,7 @@ bool ToolBarPeer::eventFilter(QObject* object, QEvent* event) {
       return Before(*event) || KeyPressed(*native, static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
       lastFocused_ = native;
-      // Shift+Tab would go back to the bar, which sends the focus here.
+      // The bar hands its focus to a button, so Shift+Tab must not stop at the bar: it would lead back here.
       setFocusPolicy(Qt::NoFocus);
       return Before(*event);
     case QEvent::FocusOut:
@@ -251,7 +252,7 @@ bool ToolBarPeer::eventFilter(QObject* object, QEvent* event) {
       return Before(*event);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: {
-      // Only what the native button keeps for itself: the bar gets the rest from Qt.
+      // Only the presses that the native button keeps for itself: Qt hands the others on to the bar.
       const auto& press = static_cast<QMouseEvent&>(*event);
       if (press.button() == Qt::LeftButton || !native->isEnabled()) {
         Post(StateAt(native->mapToParent(press.position()), press.button(), press.modifiers()));
@@ -272,7 +273,7 @@ bool ToolBarPeer::eventFilter(QObject* object, QEvent* event) {
 }
 
 void ToolBarPeer::contextMenuEvent(QContextMenuEvent* event) {
-  // Or a main window around it would offer to hide toolbars.
+  // Accepted, or a main window around the bar would show its own menu, for hiding toolbars.
   event->accept();
 }
 

@@ -15,15 +15,15 @@ namespace tactix::qt {
 /// A toolbar: an action for each of its buttons, captions below the pictures, or beside them in a column. Pictures and
 /// letters shrink where the bar is too thin for them; buttons beyond its length go to a menu at its end.
 ///
-/// Tab enters and leaves it, the arrow keys, Home and End move inside, Space and Enter press. It has the focus as a
-/// whole as far as its control is concerned.
+/// Tab enters and leaves it, the arrow keys, Home and End move inside, Space and Enter press. For its control, the
+/// toolbar as a whole has the focus.
 class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> {
  public:
   ToolBarPeer(ToolBar& bar, QtSite& site, QWidget* parent);
 
   void ButtonChanged(ToolBar& bar, ToolButton& button) override;
 
-  /// What draws a button; null where nothing does. The native button is hidden where it has no room.
+  /// The action and the native button that show a button; null where none does. A native button without room is hidden.
   static QAction* ActionOf(const ToolButton& button);
   static QToolButton* NativeOf(const ToolButton& button);
 
@@ -47,9 +47,9 @@ class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> 
   void Click(std::size_t index);
   bool KeyPressed(QToolButton& native, QKeyEvent& event);
   QToolButton* NativeOf(QAction& action) const;
-  /// Where the keyboard can go, in order.
+  /// The native buttons that the arrow keys go through, in order.
   std::vector<QToolButton*> Stops() const;
-  /// The stop behind one, or before it where it is the last; null when it is alone.
+  /// The stop after a native button, or the one before it where it is the last; null when it is alone.
   QToolButton* Neighbour(const QToolButton& native) const;
 
   std::vector<QAction*> actions_;
