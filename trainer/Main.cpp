@@ -37,7 +37,7 @@ void LeaveOutPlatformTalk(QtMsgType type, const QMessageLogContext& context, con
   if (!message.startsWith(QLatin1String("This plugin does not support"))) otherMessages(type, context, message);
 }
 
-/// A demo needs neither a display nor a login session, and what Qt says about that is no news.
+/// A demo runs without a display or a login session. Qt's remarks about that are left out.
 void DoWithoutDisplay(const QString& runtimeFolder) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("XDG_RUNTIME_DIR", runtimeFolder.toLocal8Bit());
@@ -49,7 +49,7 @@ int Run(const CommandLine& line) {
       tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName);
   trainer::screens::TrainerWindow window(trainer::engine::Session(line.rules, line.seed), catalogue);
   if (line.demo) return trainer::screens::Demo(window, *line.demo, std::cout).Run() ? EXIT_SUCCESS : EXIT_FAILURE;
-  // A low screen has less room than the window would like, and its frame takes some.
+  // On a small screen the window shrinks until it fits, frame included.
   window.resize(window.size().boundedTo(window.screen()->availableSize() - FrameRoom));
   window.show();
   window.Deal();

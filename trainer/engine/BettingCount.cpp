@@ -15,11 +15,11 @@ namespace {
 /// The effects of removal: what the player gains when one such card is gone from a single deck, in hundredths of a
 /// percent of the bet; ace, 2 ... 9, ten. Griffin, The Theory of Blackjack, 1979.
 constexpr std::array<int, 10> EffectsOfRemoval = {-61, 38, 44, 55, 69, 46, 28, 0, -18, -51};
-/// What one of the bets' counts stands for, in the same unit.
+/// What 1 in the betting count stands for, in the same unit: half a percent of the bet.
 constexpr int EffectOfOne = 50;
 
-/// The points of a card in halves. An ace without points is one for the play of hands; for bets it is as good as a ten
-/// at the least, which is what a side count of aces corrects.
+/// The points of a card in halves. A system that gives the ace no points does so for the sake of playing decisions. For
+/// bets an ace is worth at least a ten, so it gets a ten's points, which others do with a side count of aces.
 int BettingHalvesOf(const CountSystem& system, Card card) {
   const int halves = system.HalvesOf(card);
   if (card.rank != Rank::Ace || halves != 0) return halves;
@@ -63,10 +63,11 @@ int BettingCount(const CountSystem& system, int decks, std::span<const Card> see
   std::int64_t running = 0;
   for (const Card card : seen) running += BettingHalvesOf(system, card);
   const DeckSums deck = SumsOf(system);
-  // Against the points that as many cards have on the average: the unbalanced start falls out.
+  // How far the count is above what as many cards have on average, times the deck's size. The start of an unbalanced
+  // system plays no part in it.
   const std::int64_t surplus = CardsPerDeck * running - count * deck.halves;
-  // What a half is worth, by least squares over the deck: product / square. The deck's size, by which the surplus is
-  // too large, is the same by which the cards left are more than the decks left.
+  // By least squares over the deck, half a point is worth product / square. The surplus is too large by the deck's
+  // size, and so is `left`, which counts cards instead of decks: the two factors cancel out.
   const std::int64_t product = CardsPerDeck * deck.products - deck.halves * deck.effects;
   const std::int64_t square = CardsPerDeck * deck.halvesSquared - deck.halves * deck.halves;
   return static_cast<int>(DividedDown(product * surplus, square * left * EffectOfOne));

@@ -14,7 +14,7 @@ class CardSource {
   CardSource& operator=(CardSource&&) = default;
   virtual ~CardSource() = default;
 
-  /// Told before the first card of a round: whatever was drawn earlier has left the table.
+  /// Called before the first card of a round: the cards drawn earlier have left the table.
   virtual void BeginRound() = 0;
 
   virtual Card Draw() = 0;

@@ -8,7 +8,8 @@
 
 namespace trainer::engine {
 
-/// The running count of a shoe, exact. What the player has not seen, a hole card say, is not shown to it.
+/// The running count of a shoe, exact. Cards that the player has not seen, such as a hole card, must not be given to
+/// it.
 class Counter {
  public:
   /// The count of a fresh shoe. The system must live as long as the counter; those of CountSystems() do. Throws

@@ -12,8 +12,8 @@ enum class DealersTurn : std::uint8_t { Taken, NotNeeded };
 /// What the dealer's hands have come to since the shuffle.
 class DealerRecord {
  public:
-  /// A hand that is open to see, at the end of its round. One with which the dealer did not have his turn counts by its
-  /// first two cards only, whatever its total: else those of 17 and more would be played out too often. Throws
+  /// Adds a hand that is face up, at the end of its round. Where the dealer did not have his turn, only its first two
+  /// cards count, whatever its total: otherwise hands of 17 and more would count as played out too often. Throws
   /// std::invalid_argument for fewer than two cards.
   void Add(const Hand& hand, DealersTurn turn);
   void Forget() { *this = {}; }

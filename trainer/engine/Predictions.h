@@ -25,7 +25,7 @@ inline constexpr double FullDeckTensRatio = 16.0 / 52.0;
 /// What the player has predicted and not yet seen, and how often predictions came true.
 class Predictions {
  public:
-  /// A new prediction takes the place of the one before; none takes it back.
+  /// A new prediction replaces the one before; an empty one takes it back.
   void PredictHitCard(std::optional<CardRange> range) { hitCard_ = range; }
   void PredictHoleCard(std::optional<CardRange> range) { holeCard_ = range; }
   void PredictDealerHand(std::optional<bool> strong) { dealerIsStrong_ = strong; }

@@ -9,7 +9,7 @@ namespace trainer::engine {
 
 namespace {
 
-/// A player sits down at a table whose rules are in order.
+/// Checks the rules before anything is made from them.
 const Rules& Checked(const Rules& rules) {
   Validate(rules);
   return rules;

@@ -42,8 +42,8 @@ class Session {
   /// Throws std::invalid_argument for rules or a bet that Round refuses.
   Session(const Rules& rules, std::uint64_t seed, Money bet = 1000);
 
-  /// The next round; after the cut card, from a new shuffle. What is left of the last round is given up: it is not
-  /// counted, and its hole card is among the cards seen from then on.
+  /// Deals the next round, after a shuffle if the cut card is out. An unfinished round is given up: it is not counted,
+  /// and its hole card counts as seen from then on.
   void Deal();
 
   /// False before the first deal.
@@ -53,7 +53,7 @@ class Session {
   /// Throws std::logic_error before the first deal.
   [[nodiscard]] const Round& CurrentRound() const;
 
-  /// What each hand is played for from the next round on. Throws std::invalid_argument for a bet that Round refuses.
+  /// The bet on each hand from the next round on. Throws std::invalid_argument for a bet that Round refuses.
   void Bet(Money bet);
   [[nodiscard]] Money CurrentBet() const { return bet_; }
 
@@ -105,7 +105,7 @@ class Session {
   engine::Predictions predictions_;
   Tally tally_;
   int run_ = 0;
-  bool isInRun_ = true;  // the round
+  bool isInRun_ = true;  // whether the current round counts for the run
   DealerRecord dealer_;
   int roundsAhead_ = 0;
   bool isCounted_ = false;

@@ -59,7 +59,7 @@ Card Shoe::Draw() {
 
 Card Shoe::Burn() {
   const Card card = Draw();
-  // The cards on the table move up by one, and the burned one goes before them.
+  // Puts the burned card at the end of the discards, before the cards on the table.
   const auto begin = cards_.begin();
   const auto end = begin + static_cast<std::ptrdiff_t>(next_);
   std::rotate(begin + static_cast<std::ptrdiff_t>(tableBegin_), end - 1, end);

@@ -36,7 +36,8 @@ class Shoe final : public CardSource {
   /// true: that round is still the last one.
   [[nodiscard]] bool NeedsShuffle() const { return cutCardIsOut_; }
 
-  /// Draws the next card past the table to the discards: it is not in this round and cannot make the shoe run out.
+  /// Draws the next card and puts it with the discards: it is not part of the round, and a shoe that runs out shuffles
+  /// it in again.
   Card Burn();
 
   /// Takes all cards back, those on the table too.

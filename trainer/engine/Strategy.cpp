@@ -17,7 +17,8 @@ namespace {
 constexpr std::array EveryDecision = {Decision::Hit, Decision::Stand, Decision::Split, Decision::Double,
                                       Decision::Surrender};
 
-/// What a square asks for, first wish first; indexed by ChartCell, those apart that depend on the rules.
+/// The plays that a square asks for, the first choice first. Indexed by ChartCell; the cells that depend on the rules
+/// have no row, they are settled before.
 struct Wishes {
   ChartCell cell;
   std::array<Decision, 2> plays;

@@ -20,7 +20,7 @@ BoxInput::BoxInput(QWidget* parent) : DecisionInput(parent), box_(new tactix::qt
 
   box_->DecisionBoxType(Decision::forUseWithBlackjackTable);
   box_->AllowAdvice(Decision::LargeButton);
-  // Lower, it would lose its plays.
+  // If it were lower, its play buttons would be cut off.
   box_->setMinimumHeight(box_->sizeHint().height());
 
   const auto plays = [this](void (Decision::*signal)(), engine::Decision decision) {

@@ -35,7 +35,7 @@ class DecisionInput : public QWidget {
   virtual void Rest() = 0;
   /// Names the strategy that gives the advice.
   virtual void NameStrategy(const QString&) {}
-  /// The predictions that are told with the play and not as they are made.
+  /// The predictions that this input hands over with a play, and not as soon as they are made.
   [[nodiscard]] virtual Guesses CollectGuesses() { return {}; }
 
  Q_SIGNALS:

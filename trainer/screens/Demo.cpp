@@ -22,7 +22,7 @@ namespace {
 
 constexpr int WrongInHundred = 15;
 constexpr int AdviceEvery = 9;    // decisions
-constexpr int MostAdvice = 5;     // asked for: each time takes as long as the button flashes
+constexpr int MostAdvice = 5;     // how often it asks: each time takes as long as the button flashes
 constexpr int HitCardEvery = 4;   // decisions, if it is a hit
 constexpr int HoleCardEvery = 6;  // decisions
 constexpr int MidFlash = 500;     // ms into an advice flash: the button is hidden for the second time
@@ -53,7 +53,7 @@ void Click(QWidget& widget, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   SendMouse(widget, QEvent::MouseButtonRelease, modifiers);
 }
 
-/// A key goes where a player's would: to whatever has the focus.
+/// Sends a key where a player's would go, to whatever has the focus.
 void PressKey(QWidget& window, Qt::Key key) {
   QWidget* const focused = window.focusWidget();
   QWidget& widget = focused ? *focused : window;
@@ -77,7 +77,7 @@ std::string Totals(const engine::Hand& hand) {
   return totals;
 }
 
-/// A menu runs until it is answered, so the key is on its way before the menu opens.
+/// Opening a menu waits until it is answered, so the key is sent off before the menu opens.
 void AnswerNextMenu(QObject* context, Qt::Key key) {
   QTimer::singleShot(MenuPause, context, [context, key] {
     auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -137,7 +137,7 @@ engine::Decision Demo::Choose() {
   const engine::Decision advised = session.Advised();
   if (random_.Below(100) >= WrongInHundred) return advised;
   const engine::LegalPlays legal = session.CurrentRound().Legal();
-  // Who errs with a pair splits it.
+  // Whenever it errs with a pair, it splits it.
   if (advised != engine::Decision::Split && legal.Allows(engine::Decision::Split)) return engine::Decision::Split;
   std::vector<engine::Decision> others;
   for (const PlayInput& input : PlayInputs) {

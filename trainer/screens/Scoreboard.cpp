@@ -13,7 +13,7 @@ namespace {
 
 using tactix::AfterAdvicePossibilities;
 
-/// The codes of the plays are the verdicts of what would have been right.
+/// The verdict that a play would have been right has that play's code.
 std::int32_t VerdictOn(const engine::Judgement& judgement) {
   return judgement.IsRight() ? static_cast<std::int32_t>(AfterAdvicePossibilities::afterYourPlayWasCorrect)
                              : static_cast<std::int32_t>(judgement.advised);

@@ -12,7 +12,7 @@ namespace {
 
 using engine::Card;
 
-/// What the clump type of balanced cards is.
+/// The clump type of balanced cards.
 constexpr int NeutralClump = 7;
 
 constexpr bool IsCore(int points) { return points >= 5 && points <= 8; }
@@ -44,7 +44,8 @@ void FillStatistics(const engine::Session& session, const engine::CountSystem& s
                     tactix::companion::StrategyDataBlock& block) {
   const int decks = session.TheRules().decks;
   const std::vector<Card> seen = session.Seen();
-  // A shoe that was burned through has no card left; it counts as its last one.
+  // Burning cards may have used up the whole shoe. It then counts as having one card left, since a true count needs
+  // one.
   const int left = std::max(decks * engine::CardsPerDeck - static_cast<int>(seen.size()), 1);
   const auto countOf = [&seen](auto isCounted) {
     return static_cast<std::int16_t>(

@@ -34,7 +34,7 @@ StrategyBar::StrategyBar(QWidget* parent)
   using tactix::qt::StrategyMarquix;
   connect(marquee_, &StrategyMarquix::StrategySelectionChanged, this, &StrategyBar::PlayingPicked);
   connect(betting_, &BetStrategyList::StrategySelectionChanged, this, &StrategyBar::BettingPicked);
-  // The event carries the row.
+  // The event carries the row: 0 for one unit.
   connect(units_, &tactix::qt::UnitSelectionList::UnitSizeSelected, this,
           [this](int picked) { Q_EMIT UnitsPicked(picked + 1); });
   // The event's number is one less than the system's.
@@ -48,7 +48,7 @@ void StrategyBar::ShowPlaying(std::optional<int> number) {
   if (number) {
     marquee_->ListIndex(*number);
   } else {
-    // A fresh fill asks for a strategy; a row that is merely deselected leaves its text.
+    // A new fill deselects the row and shows "Select a Strategy"; deselecting alone would leave the row's text.
     marquee_->InputPlayingStrategyDescriptions();
   }
 }
@@ -74,7 +74,7 @@ void StrategyBar::Introduce(const QString& name, QWidget* list) {
 }
 
 bool StrategyBar::eventFilter(QObject* object, QEvent* event) {
-  // A list that closes hands the focus back to its box for this reason.
+  // When an open list closes, its box gets the focus back with this reason.
   if (event->type() == QEvent::FocusIn && static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason) {
     Q_EMIT Closed();
   }

@@ -24,7 +24,8 @@ class StrategyBar : public QWidget {
   tactix::qt::CountStrategyList& Counts() { return *counts_; }
   tactix::qt::UnitSelectionList& Units() { return *units_; }
 
-  /// Has the marquee show and mark the strategy in use; without one, neither a row nor the mark. Reports nothing.
+  /// Shows the strategy in use in the marquee, with the mark; without a number neither a row nor the mark. Reports
+  /// nothing.
   void ShowPlaying(std::optional<int> number);
 
  Q_SIGNALS:
@@ -40,7 +41,7 @@ class StrategyBar : public QWidget {
 
  private:
   QWidget* WithCaption(const QString& caption, QWidget* list);
-  /// Has a screen reader call a control's box so, and Closed() heard.
+  /// Gives a control's box its name for screen readers, and watches the box for Closed().
   void Introduce(const QString& name, QWidget* list);
 
   // In the order of the Tab key.

@@ -77,7 +77,8 @@ TableLayout LayOut(const TableModel& model, QSizeF size) {
   }
   const QSizeF card(cardWidth, cardWidth * CardAspect);
 
-  // A table higher than the cards can use leaves some of the rest above the dealer and below the player.
+  // On a table that is higher than the cards can use, part of the spare height goes above the dealer and below the
+  // player.
   const qreal spare = std::max(0.0, height - used - 2 * card.height());
   const qreal outside = spare * 0.15;
 

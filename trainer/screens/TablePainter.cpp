@@ -40,7 +40,8 @@ struct PrintedLetter {
   qreal width;
 };
 
-// Outlines of large letters, to be scaled down: font sizes go by whole pixels, the print goes by the table.
+// Letters are outlined at this size and then scaled: font sizes are whole pixels, but the print follows the table's
+// size.
 constexpr int PrintOutlineSize = 256;
 
 std::vector<PrintedLetter> OutlinesOf(const QString& text, QFont font) {
@@ -50,7 +51,7 @@ std::vector<PrintedLetter> OutlinesOf(const QString& text, QFont font) {
   for (const QChar character : text) {
     QPainterPath outline;
     outline.addText(QPointF(), font, QString(character));
-    // Set by their outlines: where a letter begins varies a little with what its font has drawn before.
+    // Placed by its outline: where the font lets a letter begin varies a little with what it has drawn before.
     const QRectF bounds = outline.boundingRect();
     outline.translate(-bounds.center().x(), 0);
     letters.push_back({outline, outline.isEmpty() ? PrintOutlineSize * 0.1 : bounds.width()});
@@ -58,7 +59,7 @@ std::vector<PrintedLetter> OutlinesOf(const QString& text, QFont font) {
   return letters;
 }
 
-// Letters stand along the lower part of a circle, as on a table where the dealer is its centre.
+// Prints the letters along the lower part of a circle, as on a table with the dealer at the circle's centre.
 void PaintPrint(const Scene& scene, const QRectF& bounds) {
   const TableLayout& layout = scene.layout;
   if (layout.printHeight < 1) return;
@@ -120,7 +121,7 @@ void PaintCards(const Scene& scene, const std::vector<engine::Card>& cards, cons
   }
 }
 
-// A text on a ground with round ends that hugs it.
+// A text on a background with round ends, as wide as the text needs.
 class Plate {
  public:
   Plate(const QFont& font, const QString& text, QSizeF room)
@@ -148,7 +149,7 @@ class Plate {
   qreal width_;
 };
 
-// Returns where the label's ground begins.
+// Returns the left edge of the label's background.
 qreal PaintLabel(const Scene& scene, const QRectF& room, const QString& text) {
   if (text.isEmpty()) return room.center().x();
   const Plate plate(scene.font, text, room.size());
@@ -173,7 +174,7 @@ void PaintActiveFrame(const Scene& scene, const QRectF& frame) {
   painter.drawRoundedRect(frame, radius, radius);
 }
 
-// Points down at the cards, for those who can't tell the frame's colour.
+// Points down at the cards of the active hand, for players who can't tell the frame's colour.
 void PaintMarker(const Scene& scene, QPointF middle, qreal size) {
   QPainterPath marker;
   marker.moveTo(middle + QPointF(-0.5, -0.42) * size);

@@ -61,7 +61,7 @@ ToolBarInput::ToolBarInput(QWidget* parent)
   bar_->ResetPredictionButtons(true);
   ShowRecord();
   Connect();
-  // The toolbar keeps predictions to itself until it is asked, so look after each thing the player does.
+  // The toolbar tells predictions only when it is asked, so it is asked after each mouse or key event.
   QApplication::instance()->installEventFilter(this);
 }
 
@@ -100,7 +100,7 @@ void ToolBarInput::Ask(const tactix::DecisionBlock& block) {
 void ToolBarInput::Rest() {
   resting_ = true;
   bar_->GetReadyForADecision();
-  // Every play is on, and there is nothing to advise.
+  // An empty block enables every play and advises none.
   bar_->SetupTheDecisionBAR(tactix::DecisionBlock());
   prompt_->clear();
   ShowRecord();

@@ -18,7 +18,7 @@ class ToolBarInput final : public DecisionInput {
 
   tactix::qt::DecisionBAR2& Bar() { return *bar_; }
   tactix::qt::HitStandLegend& Legend() { return *legend_; }
-  /// Hidden at first. The letters are the legend's: with it, it gets the focus.
+  /// Hidden at first. While it is shown it gets the focus, because it takes the letter keys.
   void ShowLegend(bool shown);
 
   void Ask(const tactix::DecisionBlock& block) override;

@@ -29,16 +29,16 @@ namespace trainer::screens {
 namespace {
 
 constexpr QSize FirstSize(1000, 900);
-/// Counted with at first: simple, and widely known.
+/// The count system at first: simple, and widely known.
 constexpr int FirstCountSystem = 21;
 constexpr int FlatBet = 0;
 constexpr engine::Money BetUnit = 1000;
-/// A little less than an advised button flashes.
+/// A little less than the time for which an advised button flashes.
 constexpr qint64 FlashMilliseconds = 1500;
 
 using tactix::companion::IniStrategyCatalogue;
 
-/// What the controls need of their host, before the first of them is made.
+/// Installs what the controls need of their host, before the first of them is made.
 std::shared_ptr<IniStrategyCatalogue> Installed(std::shared_ptr<IniStrategyCatalogue> catalogue) {
   tactix::companion::Install();
   tactix::StrategyListData::UseCatalogue(catalogue);
@@ -95,7 +95,8 @@ TrainerWindow::TrainerWindow(engine::Session session, std::shared_ptr<IniStrateg
   MakeDrillMenu();
   Connect(*box_);
   Connect(*toolBar_);
-  // The letters are plays again. Later: the list is still at work.
+  // Gives the focus back to the play buttons, so that letters are plays again. Queued: the list is still handling its
+  // event.
   const auto goBack = [this] {
     QMetaObject::invokeMethod(
         this, [this] { input_->setFocus(); }, Qt::QueuedConnection);
@@ -241,7 +242,7 @@ void TrainerWindow::ShowTable(const QString& message, TableModel::Verdict verdic
 void TrainerWindow::ShowScore() { score_->Show(session_.CurrentTally(), session_.Predictions()); }
 
 void TrainerWindow::PredictHitCard(std::optional<engine::CardRange> range) {
-  // Between rounds the press belongs to a click that deals.
+  // Between rounds this press is a part of the click that deals.
   if (session_.IsOver()) return;
   session_.Predictions().PredictHitCard(range);
   ShowTable(ThenGoOn(GuessText(QStringLiteral("hit card"), range)));
@@ -265,7 +266,8 @@ void TrainerWindow::PredictTensRatio(bool high) {
   ShowScore();
 }
 
-/// The predictions that come with a play; those of cards are told when the card is seen, that of the tens right away.
+/// Takes over the predictions that come with a play, and returns what became of the one about the tens. Those about
+/// cards are judged when the card is seen.
 QString TrainerWindow::TakeGuesses(const Guesses& guesses) {
   const auto rangeOf = [](CardGuess guess) {
     return guess == CardGuess::Unknown ? std::nullopt : std::optional(static_cast<engine::CardRange>(guess));
@@ -289,7 +291,7 @@ void TrainerWindow::ShowStatistics() {
 }
 
 void TrainerWindow::SayAdvice() {
-  // The player may have played on while the button flashed; the next hand's advice was not asked for.
+  // The player may have played on while the button flashed; advice for the next hand was not asked for.
   if (session_.IsOver() || sinceHandWasShown_.elapsed() < FlashMilliseconds) return;
   const engine::Round& round = session_.CurrentRound();
   const QString by = strategy_.isEmpty() ? QString() : QStringLiteral(" by ") + strategy_;

@@ -21,7 +21,7 @@ class Scoreboard;
 class StrategyBar;
 class TableView;
 
-/// With what the player plays.
+/// What the player plays with.
 enum class InputKind { Box, ToolBar, ToolBarAndLegend };
 
 /// A decision as the window judged it, with what it was made on.
@@ -39,8 +39,8 @@ class TrainerWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// `catalogue` is where strategies come from; the whole process uses it from now on, and companion's defaults for
-  /// what else controls need of a host.
+  /// `catalogue` is where strategies come from. From now on the whole process uses it, and the companion's defaults for
+  /// whatever else controls need of a host.
   TrainerWindow(engine::Session session, std::shared_ptr<tactix::companion::IniStrategyCatalogue> catalogue,
                 QWidget* parent = nullptr);
 
@@ -52,7 +52,7 @@ class TrainerWindow : public QMainWindow {
   Scoreboard& Board() { return *board_; }
   StrategyBar& Strategies() { return *strategies_; }
 
-  /// The box at first. The View menu does the same.
+  /// Changes what the player plays with; the box at first. The View menu does the same.
   void PlayWith(InputKind kind);
   /// The next round. What is left of the last one is given up.
   void Deal();
@@ -85,7 +85,7 @@ class TrainerWindow : public QMainWindow {
   void BetBy(int number);
   void CountBy(int number);
   void BetUnits(int units);
-  /// By the betting strategy, for the round to come.
+  /// Sets the bet of the next round by the betting strategy.
   void SizeTheBet();
 
   engine::Session session_;
@@ -99,7 +99,7 @@ class TrainerWindow : public QMainWindow {
   Scoreboard* board_;
   StrategyBar* strategies_;
   const tactix::companion::BettingPlan* plan_ = nullptr;  // null for flat bets
-  int units_ = 1;                                         // that the player bets where the plan says one
+  int units_ = 1;                                         // what the player bets where the plan says one unit
   const engine::CountSystem* countSystem_;
   BoxInput* box_;
   ToolBarInput* toolBar_;
