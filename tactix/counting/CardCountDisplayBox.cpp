@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "tactix/platform/PropertyTable.h"
-#include "tactix/platform/Tolerance.h"
+#include "tactix/platform/SavedProperties.h"
 
 namespace tactix {
 
@@ -49,7 +49,7 @@ CardCountDisplayBox::CardCountDisplayBox(Site& site) : Control(site) {
   Resized();
 }
 
-CardCountDisplayBox::~CardCountDisplayBox() = default;
+CardCountDisplayBox::~CardCountDisplayBox() { MarkAsGone(); }
 
 void CardCountDisplayBox::CountBoxType(Coded<TypeOfCountBox> type) {
   countBoxType_ = type;
@@ -74,11 +74,13 @@ void CardCountDisplayBox::Repaint() {
 }
 
 void CardCountDisplayBox::ReadProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { CountBoxType(bag.Read("CountBoxType", 0).ToLong()); });
+  SavedProperties(*this, bag).Read("CountBoxType", 0, [this](const Variant& type) { CountBoxType(type.ToLong()); });
 }
 
 void CardCountDisplayBox::WriteProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { bag.Write("CountBoxType", countBoxType_.Value(), 0); });
+  SavedProperties(*this, bag)
+      .Write(
+          "CountBoxType", [this] { return countBoxType_.Value(); }, 0);
 }
 
 void CardCountDisplayBox::Resized() {

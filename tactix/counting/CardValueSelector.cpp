@@ -4,7 +4,7 @@
 #include <string>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Tolerance.h"
+#include "tactix/platform/SavedProperties.h"
 #include "tactix/platform/Variant.h"
 
 namespace tactix {
@@ -97,24 +97,26 @@ void CardValueSelector::PositionTheList() {
 }
 
 void CardValueSelector::ReadProperties(PropertyBag& bag) {
-  const Weak<CardValueSelector> self(this);
-  IgnoringErrors([&] {
-    const std::int32_t value = bag.Read(variety_.valueName, 0).ToLong();
+  SavedProperties saved(*this, bag);
+  saved.Read(variety_.valueName, 0, [this](const Variant& read) {
+    const std::int32_t value = read.ToLong();
     // A value that has no row fails with 380, also where its row's number would not fit.
     if (value > HighestValue) throw Error(Error::InvalidPropertyValue);
     widgets_.list.ListIndex(value - FirstRowsValue);
   });
-  if (!self) return;
-  IgnoringErrors([&] {
-    cardNumber_ = bag.Read("CardValue", Ace).ToLong();
+  saved.Read("CardValue", Ace, [this](const Variant& card) {
+    cardNumber_ = card.ToLong();
     // Digits here, for the ace and the ten too.
     widgets_.card.Caption(std::to_string(cardNumber_));
   });
 }
 
 void CardValueSelector::WriteProperties(PropertyBag& bag) {
-  IgnoringErrors([&] { bag.Write(variety_.valueName, selectedValue_, 0); });
-  IgnoringErrors([&] { bag.Write("CardValue", cardNumber_, Ace); });
+  SavedProperties saved(*this, bag);
+  saved.Write(
+      variety_.valueName, [this] { return selectedValue_; }, 0);
+  saved.Write(
+      "CardValue", [this] { return cardNumber_; }, Ace);
 }
 
 }  // namespace tactix

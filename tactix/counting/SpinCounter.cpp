@@ -5,6 +5,7 @@
 
 #include "tactix/platform/NumberText.h"
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/platform/SavedProperties.h"
 #include "tactix/platform/Tolerance.h"
 
 namespace tactix {
@@ -15,6 +16,8 @@ using Handedness = SpinCounterPossibilities;
 
 constexpr std::int16_t LowestLimit = 1;
 constexpr std::int16_t HighestLimit = 999;
+
+constexpr auto StandardHandedness = static_cast<std::int32_t>(Handedness::RighHandSpinCounter);
 
 // Twips.
 constexpr std::int16_t StandardHeight = 360;
@@ -50,7 +53,7 @@ SpinCounter::SpinCounter(Site& site) : Control(site) {
   spin.SpunDown.Connect([this] { StepDown(); });
 }
 
-SpinCounter::~SpinCounter() = default;
+SpinCounter::~SpinCounter() { MarkAsGone(); }
 
 // The number.
 
@@ -58,20 +61,29 @@ std::shared_ptr<CounterValueObject> SpinCounter::ValueObject() {
   if (value_) return value_;
   const Weak<SpinCounter> self(this);
   std::shared_ptr<CounterValueObject> made = CounterValueObject::Create();
-  if (self) value_ = made;
+  if (!self) return nullptr;
+  // One that the factory has had the counter make meanwhile ends last.
+  const std::shared_ptr<CounterValueObject> before = std::exchange(value_, made);
   return made;
 }
 
-std::int16_t SpinCounter::CounterValue() { return std::as_const(*ValueObject()).Value(); }
+// The value is kept while it is asked: it is the host's, and may end the control.
+
+std::int16_t SpinCounter::CounterValue() {
+  const std::shared_ptr<const CounterValueObject> value = ValueObject();
+  return value ? value->Value() : std::int16_t{0};
+}
+
+template <class Step>
+bool SpinCounter::Do(const Step& step) {
+  const Weak<SpinCounter> self(this);
+  if (const std::shared_ptr<CounterValueObject> value = ValueObject()) step(*value);
+  return static_cast<bool>(self);
+}
 
 template <class Step>
 void SpinCounter::Change(const Step& step) {
-  const Weak<SpinCounter> self(this);
-  // Kept until the step has returned: the value is the host's, and may end the control.
-  const std::shared_ptr<CounterValueObject> value = ValueObject();
-  if (!self) return;
-  step(*value);
-  if (self) Refresh();
+  if (Do(step)) Refresh();
 }
 
 void SpinCounter::CounterValue(std::int16_t value) {
@@ -212,43 +224,43 @@ void SpinCounter::InitProperties() {
   IgnoringErrors([this] { defaultHeight_ = Variant(HeightInTwips()).ToInteger(); });
 }
 
-auto SpinCounter::StepByStep() const {
-  return [self = Weak<const SpinCounter>(this)](const auto& step) {
-    if (self) IgnoringErrors(step);
-  };
-}
-
 void SpinCounter::ReadProperties(PropertyBag& bag) {
-  const auto restore = StepByStep();
-  restore([&] {
-    const std::int16_t value = bag.Read("CounterValue", std::int16_t{0}).ToInteger();
-    ValueObject()->Value(value);
+  SavedProperties saved(*this, bag);
+  saved.Read("CounterValue", std::int16_t{0}, [this](const Variant& read) {
+    const std::int16_t number = read.ToInteger();
+    Do([number](CounterValueObject& value) { value.Value(number); });
   });
-  restore([&] { AllowNegNumbers(bag.Read("AllowNegNumbers", false).ToBoolean()); });
-  restore([&] { maximumLimit_ = bag.Read("MaximumLimit", HighestLimit).ToInteger(); });
-  restore([&] { HeightInTwips(bag.Read("Height", float{StandardHeight}).ToSingle()); });
-  restore([&] {
-    controlHandedness_ = bag.Read("ControlHandedness", Coded(Handedness::RighHandSpinCounter).Value()).ToLong();
+  saved.Read("AllowNegNumbers", false, [this](const Variant& allow) { AllowNegNumbers(allow.ToBoolean()); });
+  saved.Read("MaximumLimit", HighestLimit, [this](const Variant& limit) { maximumLimit_ = limit.ToInteger(); });
+  saved.Read("Height", float{StandardHeight}, [this](const Variant& height) { HeightInTwips(height.ToSingle()); });
+  saved.Read("ControlHandedness", StandardHandedness, [this](const Variant& handedness) {
+    controlHandedness_ = handedness.ToLong();
     LayOut();
   });
-  restore([&] { Children.labelCardsInStack.Font(bag.Read("Font", ItsSite().AmbientFont()).ToFont()); });
+  saved.Read(
+      "Font", [this] { return ItsSite().AmbientFont(); },
+      [this](const Variant& font) { Children.labelCardsInStack.Font(font.ToFont()); });
 }
 
 void SpinCounter::WriteProperties(PropertyBag& bag) {
-  const auto save = StepByStep();
-  save([&] { bag.Write("CounterValue", CounterValue(), std::int16_t{0}); });
-  save([&] { bag.Write("AllowNegNumbers", allowNegNumbers_, false); });
-  save([&] { bag.Write("MaximumLimit", maximumLimit_, HighestLimit); });
-  save([&] { bag.Write("Height", HeightInTwips(), float{StandardHeight}); });
-  save([&] {
-    bag.Write("ControlHandedness", controlHandedness_.Value(), Coded(Handedness::RighHandSpinCounter).Value());
-  });
-  save([&] { bag.Write("Font", Font(), ItsSite().AmbientFont()); });
+  SavedProperties saved(*this, bag);
+  saved.Write(
+      "CounterValue", [this] { return CounterValue(); }, std::int16_t{0});
+  saved.Write(
+      "AllowNegNumbers", [this] { return allowNegNumbers_; }, false);
+  saved.Write(
+      "MaximumLimit", [this] { return maximumLimit_; }, HighestLimit);
+  saved.Write(
+      "Height", [this] { return HeightInTwips(); }, float{StandardHeight});
+  saved.Write(
+      "ControlHandedness", [this] { return controlHandedness_.Value(); }, StandardHandedness);
+  saved.Write(
+      "Font", [this] { return Font(); }, [this] { return ItsSite().AmbientFont(); });
 }
 
 void SpinCounter::Terminated() {
-  // Out of the member first: the host's value may look at the control as it ends.
-  std::exchange(value_, nullptr).reset();
+  // Ends last: the host's value may look at the control, and destroy it.
+  const std::shared_ptr<CounterValueObject> released = std::exchange(value_, nullptr);
   Control::Terminated();
 }
 

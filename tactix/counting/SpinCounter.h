@@ -76,15 +76,17 @@ class TACTIX_EXPORT SpinCounter : public Control {
   } Children;
 
  private:
+  /// Null where making it has destroyed the control.
   std::shared_ptr<CounterValueObject> ValueObject();
+  /// Does something with the value. False when the control is gone.
+  template <class Step>
+  bool Do(const Step& step);
   template <class Step>
   void Change(const Step& step);
   void StepUp();
   void StepDown();
   void Refresh();
   void LayOut();
-  /// Runs one step of saving or restoring after the other as long as the control exists, whichever of them fails.
-  auto StepByStep() const;
   void TakeAmbientColors();
   /// The control's height in twips.
   float HeightInTwips() const;

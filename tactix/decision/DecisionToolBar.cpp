@@ -6,7 +6,7 @@
 #include "tactix/decision/DecisionToolButtons.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
-#include "tactix/platform/Tolerance.h"
+#include "tactix/platform/SavedProperties.h"
 
 namespace tactix {
 
@@ -86,7 +86,7 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   if (!self) return;
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  widgets_->DecisionToolBar.Visible(running);
+  if (self) widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.
@@ -151,7 +151,7 @@ ObjectRef DecisionToolBarControl::KelvoEdition() {
   if (edition_) return edition_;
   const Weak<DecisionToolBarControl> self(this);
   const ObjectRef created = DefaultEdition::Create();
-  if (self) edition_ = created;
+  if (self) TakeTheEdition(created);
   return created;
 }
 
@@ -165,8 +165,10 @@ void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdi
 
 // Setting up for a hand.
 
-void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) {
+  SetupForAHand(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -176,12 +178,12 @@ void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
 }
 
 void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 
 void DecisionToolBarControl::SetupBar(const BlockReader& block) {
@@ -200,8 +202,10 @@ void DecisionToolBarControl::SetupBar(const BlockReader& block) {
   if (self) prompt_ = std::move(prompt);
 }
 
-void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) {
+  SetupButtons(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -219,8 +223,8 @@ void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
 
 void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
-void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void DecisionToolBarControl::Decode(const BlockReader& block) {
   // Kept, since reading a host's object may destroy the bar.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
@@ -323,32 +327,32 @@ constexpr DecisionToolBarControl::SavedVisibility DecisionToolBarControl::SavedV
 };
 
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
-  // A bag is the host's: it may destroy the bar in the middle of reading and writing.
   const Weak<DecisionToolBarControl> self(this);
-  const auto saved = [&bag](std::string_view name, std::int32_t value) {
-    IgnoringErrors([&] { value = bag.Read(name, value).ToLong(); });
+  SavedProperties saved(*this, bag);
+  const auto read = [&saved](std::string_view name, std::int32_t value) {
+    saved.Read(name, value, [&value](const Variant& stored) { value = stored.ToLong(); });
     return value;
   };
   // The buttons stay as they are until the host sets a visibility.
   for (const auto& [name, state] : SavedVisibilities) {
-    const std::int32_t visibility = saved(name, 0);
+    const std::int32_t visibility = read(name, 0);
     if (!self) return;
     this->*state = visibility;
   }
-  const std::int32_t alignment = saved("Alignment", Bottom);
+  const std::int32_t alignment = read("Alignment", Bottom);
   if (self) Alignment(alignment);
   if (self) PlaceTheDecisionBAR();
 }
 
 void DecisionToolBarControl::WriteProperties(PropertyBag& bag) {
-  const Weak<DecisionToolBarControl> self(this);
+  SavedProperties saved(*this, bag, OnFailure::Report);
   // Saved as bottom whatever the docking is: saved forms rely on it.
-  bag.Write("Alignment", Bottom);
-  for (const auto& [name, state] : SavedVisibilities) {
-    if (!self) return;
-    const Status value =
-        state == &DecisionToolBarControl::statusVisibility_ ? StatusButtonButtonVisibility() : this->*state;
-    if (self) bag.Write(name, value.Value());
+  saved.Write("Alignment", [] { return Bottom; });
+  for (const auto& [name, visibility] : SavedVisibilities) {
+    saved.Write(name, [this, state = visibility] {
+      const bool isStatus = state == &DecisionToolBarControl::statusVisibility_;
+      return (isStatus ? StatusButtonButtonVisibility() : this->*state).Value();
+    });
   }
 }
 

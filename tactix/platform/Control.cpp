@@ -27,6 +27,11 @@ Control::Control(Site& site) : site_(site), extender_(*this, site) { site_.Attac
 
 Control::~Control() { site_.Detach(*this); }
 
+void Control::MarkAsGone() {
+  Trackable::MarkAsGone();
+  extender_.MarkAsGone();
+}
+
 void Control::ReadProperties(PropertyBag&) {}
 
 void Control::WriteProperties(PropertyBag&) {}

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string_view>
 
+#include "tactix/platform/SavedProperties.h"
 #include "tactix/platform/Tolerance.h"
 #include "tactix/strategy/CountDescription.h"
 #include "tactix/strategy/SavedListProperty.h"
@@ -61,12 +62,6 @@ constexpr auto DefaultSystem = static_cast<std::int16_t>(CountStrategyPossibilit
 /// What the catalogue is handed at each fill.
 class CountStrategyStore final : public Object {};
 
-std::string Describe(std::int16_t system) {
-  std::string text;
-  StrategyListData::Catalogue()->DescribeStrategy(system, text);
-  return text;
-}
-
 }  // namespace
 
 CountStrategyList::CountStrategyList(Site& site) : StrategyListControl(site, Rules) {
@@ -74,7 +69,13 @@ CountStrategyList::CountStrategyList(Site& site) : StrategyListControl(site, Rul
   for (const std::string_view name : DesignNames) Children.StrategyListBox.AddItem(name);
 }
 
-CountStrategyList::~CountStrategyList() = default;
+CountStrategyList::~CountStrategyList() { MarkAsGone(); }
+
+std::string CountStrategyList::Describe(std::int16_t system) const {
+  std::string text;
+  if (const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue()) catalogue->DescribeStrategy(system, text);
+  return text;
+}
 
 bool CountStrategyList::Select(std::int32_t system) {
   const Weak<CountStrategyList> self(this);
@@ -110,7 +111,9 @@ void CountStrategyList::InputCountStrategyDescriptions() {
 void CountStrategyList::FillBegins() {
   description_.clear();
   store_ = std::make_shared<CountStrategyStore>();
-  PassingOverObjectNotSet([store = store_] { StrategyListData::Catalogue()->AttachCountStrategyStore(store); });
+  PassingOverObjectNotSet([this, store = store_] {
+    if (const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue()) catalogue->AttachCountStrategyStore(store);
+  });
 }
 
 void CountStrategyList::FillRow(std::int16_t system) {
@@ -140,18 +143,17 @@ void CountStrategyList::Report(std::int32_t row) {
 }
 
 void CountStrategyList::ReadProperties(PropertyBag& bag) {
-  const Weak<CountStrategyList> self(this);
-  IgnoringErrors([&] {
-    const std::int16_t system = bag.Read("CountStrategy", DefaultSystem).ToInteger();
-    if (self) Select(system);
+  const bool isThere = SavedProperties(*this, bag).Read("CountStrategy", DefaultSystem, [this](const Variant& system) {
+    Select(system.ToInteger());
   });
-  if (self) StrategyListControl::ReadProperties(bag);
+  if (isThere) StrategyListControl::ReadProperties(bag);
 }
 
 void CountStrategyList::WriteProperties(PropertyBag& bag) {
-  const Weak<CountStrategyList> self(this);
-  bag.Write("CountStrategy", ListIndex(), DefaultSystem);
-  if (self) StrategyListControl::WriteProperties(bag);
+  const auto system = [this] { return ListIndex(); };
+  if (SavedProperties(*this, bag, Rules.failedWrite).Write("CountStrategy", system, DefaultSystem)) {
+    StrategyListControl::WriteProperties(bag);
+  }
 }
 
 const PropertyTable& CountStrategyList::Properties() const {

@@ -39,8 +39,9 @@ class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
   void Report(std::int32_t row) override;
   /// Fills the rows of the seat and of all strategies up to the highest.
   void FillUpTo(std::int16_t highest);
-  static std::string DescribePlaying(std::int16_t strategy);
-  static std::string DescribeBetting(std::int16_t strategy);
+  /// Empty also where the list is gone.
+  std::string DescribePlaying(std::int16_t strategy) const;
+  std::string DescribeBetting(std::int16_t strategy) const;
 };
 
 }  // namespace tactix

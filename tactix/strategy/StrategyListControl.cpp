@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "tactix/platform/Tolerance.h"
+#include "tactix/platform/SavedProperties.h"
 #include "tactix/strategy/SavedListProperty.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tactix/strategy/StrategyListRules.h"
@@ -14,15 +14,6 @@ namespace {
 constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 390;
 constexpr float SizeOfFont = 8.25F;
-
-template <class Step>
-void Run(OnFailure onFailure, Step&& step) {
-  if (onFailure == OnFailure::PassOver) {
-    IgnoringErrors(step);
-  } else {
-    step();
-  }
-}
 
 }  // namespace
 
@@ -112,8 +103,16 @@ void StrategyListControl::Visible(bool visible) { Box().Visible(visible); }
 
 void StrategyListControl::LoadTheStrategyRange() {
   const Weak<StrategyListControl> self(this);
-  const StrategyRange range = StrategyListData::Catalogue()->GetStrategyRange();
+  const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue();
+  if (!self) return;
+  const StrategyRange range = catalogue->GetStrategyRange();
   if (self) range_ = range;
+}
+
+std::shared_ptr<StrategyCatalogue> StrategyListControl::Catalogue() const {
+  const Weak<const StrategyListControl> self(this);
+  std::shared_ptr<StrategyCatalogue> catalogue = StrategyListData::Catalogue();
+  return self ? catalogue : nullptr;
 }
 
 void StrategyListControl::LoadStrategiesFromIniFile() {
@@ -160,36 +159,34 @@ void StrategyListControl::ReportTheStrategySelection() {
 }
 
 void StrategyListControl::GoBackToTheLastGoodRow() {
-  const Weak<StrategyListControl> self(this);
+  struct Refusing {
+    Weak<StrategyListControl> list;
+    ~Refusing() {
+      if (list) list->refusing_ = false;
+    }
+  };
   // Going back is no selection: it is not reported, even where that row is unusable too.
   refusing_ = true;
-  try {
-    Box().ListIndex(lastGoodListIndex_);
-  } catch (...) {
-    if (self) refusing_ = false;
-    throw;
-  }
-  if (self) refusing_ = false;
+  const Refusing untilTheEnd{Weak(this)};
+  Box().ListIndex(lastGoodListIndex_);
 }
 
 void StrategyListControl::ReadProperties(PropertyBag& bag) {
-  const Weak<StrategyListControl> self(this);
+  SavedProperties saved(*this, bag, rules_.failedRead);
   for (const SavedListProperty* property : rules_.saved) {
     if (!property->set) continue;
-    Run(rules_.failedRead, [&] {
-      const Variant value = bag.Read(property->name, property->defaultValue(ItsSite()));
-      if (self) property->set(Box(), value);
-    });
-    if (!self) return;
+    const auto defaultValue = [&] { return property->defaultValue(ItsSite()); };
+    if (!saved.Read(property->name, defaultValue, [&](const Variant& value) { property->set(Box(), value); })) return;
   }
 }
 
 void StrategyListControl::WriteProperties(PropertyBag& bag) {
-  const Weak<StrategyListControl> self(this);
+  SavedProperties saved(*this, bag, rules_.failedWrite);
   for (const SavedListProperty* property : rules_.saved) {
-    Run(rules_.failedWrite,
-        [&] { bag.Write(property->name, property->get(Box()), property->defaultValue(ItsSite())); });
-    if (!self) return;
+    const auto defaultValue = [&] { return property->defaultValue(ItsSite()); };
+    if (!saved.Write(
+            property->name, [&] { return property->get(Box()); }, defaultValue))
+      return;
   }
 }
 

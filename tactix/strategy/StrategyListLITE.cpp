@@ -23,7 +23,7 @@ constexpr StrategyListRules Rules = {
 
 StrategyListLITE::StrategyListLITE(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
 
-StrategyListLITE::~StrategyListLITE() = default;
+StrategyListLITE::~StrategyListLITE() { MarkAsGone(); }
 
 void StrategyListLITE::InputPlayingStrategyDescriptions() {
   IgnoringErrors([this] { FillUpTo(Range().HighestPlayingStrategy); });

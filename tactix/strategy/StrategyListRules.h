@@ -4,13 +4,12 @@
 #include <span>
 #include <string_view>
 
+#include "tactix/platform/Tolerance.h"
 #include "tactix/strategy/RowTexts.h"
 
 namespace tactix {
 
 struct SavedListProperty;
-
-enum class OnFailure { PassOver, Report };
 
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/platform/SavedProperties.h"
 
 namespace tactix {
 
@@ -34,7 +35,7 @@ StrategyMarquix::StrategyMarquix(Site& site) : Control(site), innerSite_(site), 
       [this](std::int32_t& strategy) { Events.StrategySelectionChanged.Raise(strategy); });
 }
 
-StrategyMarquix::~StrategyMarquix() = default;
+StrategyMarquix::~StrategyMarquix() { MarkAsGone(); }
 
 void StrategyMarquix::Arrange() {
   // The mark has its place at the banner's end, shown or not: the banner's text does not jump.
@@ -64,18 +65,16 @@ void StrategyMarquix::LoadStrategiesFromIniFile() {
 }
 
 void StrategyMarquix::ReadProperties(PropertyBag& bag) {
-  const Weak<StrategyMarquix> self(this);
-  const std::string caption = bag.Read("Caption", Caption()).ToText();
-  if (!self) return;
-  Children.labelStrategyBanner.Caption(caption);
-  const std::int32_t type = bag.Read("Control Type", controlType_.Value()).ToLong();
-  if (!self) return;
-  ControlType(type);
-  if (!self) return;
+  SavedProperties saved(*this, bag, OnFailure::Report);
+  saved.Read(
+      "Caption", [this] { return Caption(); },
+      [this](const Variant& caption) { Children.labelStrategyBanner.Caption(caption.ToText()); });
+  const auto typeSoFar = [this] { return controlType_.Value(); };
+  if (!saved.Read("Control Type", typeSoFar, [this](const Variant& type) { ControlType(type.ToLong()); })) return;
   // Under the name of its own value: nothing is ever saved there.
   const Variant marked = Children.optStrategySelected.Value();
-  const bool read = bag.Read(marked.ToText(), marked).ToBoolean();
-  if (self) Children.optStrategySelected.Value(read);
+  saved.Read(marked.ToText(), marked,
+             [this](const Variant& mark) { Children.optStrategySelected.Value(mark.ToBoolean()); });
 }
 
 void StrategyMarquix::WriteProperties(PropertyBag& bag) { bag.Write("Caption", Caption()); }
