@@ -4,7 +4,8 @@
 
 namespace tactix::companion {
 
-void Edition::WhenShown(ShowFunction show) { show_ = std::move(show); }
+// The old one ends last: what it holds may be the edition's last owner.
+void Edition::WhenShown(ShowFunction show) { std::swap(show_, show); }
 
 void Edition::Show(std::int16_t& modalFlag) {
   const ShowFunction show = show_;  // a copy: it may set another one while it runs

@@ -17,7 +17,8 @@ CounterValueObject::Factory& TheFactory() {
 
 CounterValueObject::~CounterValueObject() = default;
 
-void CounterValueObject::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+// The old one ends last: what it holds may run code of the host's.
+void CounterValueObject::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
 
 std::shared_ptr<CounterValueObject> CounterValueObject::Create() {
   const Factory create = TheFactory();  // a copy: it may set another factory while it runs

@@ -9,7 +9,11 @@
 namespace tactix {
 
 /// The number behind a spin counter, and the rules by which it is stepped: what happens at its ends is up to it. A host
-/// may supply its own. Any operation may fail with an Error.
+/// may supply its own.
+///
+/// Any operation may fail with an Error, throw something else, call back into the counter, and destroy the counter or
+/// its window; the counter keeps its value until that has returned. The same goes for the factory and, but for
+/// throwing, the destructor.
 class TACTIX_EXPORT CounterValueObject {
  public:
   using Factory = std::function<std::shared_ptr<CounterValueObject>()>;

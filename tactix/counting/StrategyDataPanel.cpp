@@ -76,7 +76,7 @@ StrategyDataPanel::StrategyDataPanel(Site& site) : Control(site), innerSite_(sit
   ReportPressesOn(Extender());
 }
 
-StrategyDataPanel::~StrategyDataPanel() = default;
+StrategyDataPanel::~StrategyDataPanel() { MarkAsGone(); }
 
 void StrategyDataPanel::ReportPressesOn(Widget& widget) {
   widget.MousePressed.Connect([this](const MouseState&) { Events.PanelClick.Raise(); });
@@ -96,12 +96,13 @@ void StrategyDataPanel::HereIsSomeStrategyDataBlockData(const ObjectRef& aStrate
 
 void StrategyDataPanel::StrategyDataBlockData(const ObjectRef& block) {
   const Weak<StrategyDataPanel> self(this);
-  if (!ownBlock_) {
-    const ObjectRef created = DefaultStrategyData::Create();
+  ObjectRef own = ownBlock_;
+  ObjectRef before;  // which the factory may have had the panel make meanwhile; ends last
+  if (!own) {
+    own = DefaultStrategyData::Create();
     if (!self) return;
-    ownBlock_ = created;
+    before = std::exchange(ownBlock_, own);
   }
-  const ObjectRef own = ownBlock_;
   own->Put(DefaultPropertyName, block);
   if (self) Display(ownBlock_);
 }

@@ -36,7 +36,7 @@ AdviceButton::AdviceButton(Site& site)
       [this](const std::int32_t& strategy) { StrategySelected(strategy); });
 }
 
-AdviceButton::~AdviceButton() = default;
+AdviceButton::~AdviceButton() { MarkAsGone(); }
 
 void AdviceButton::BuildMenu() {
   Children.mnuAdviceOptions.Add(Children.mnuBlinkAdviceButton);
@@ -95,7 +95,9 @@ void AdviceButton::ChooseBlinkMode(std::int16_t mode) {
 }
 
 void AdviceButton::SelectStrategy() {
+  const Weak<AdviceButton> self(this);
   FillTheListOnce();
+  if (!self) return;
   Children.StrategyListBox.Extender().Visible(true);
   Arrange();
   Events.StrategyListBoxVisibilityChanged.Raise(true);

@@ -14,6 +14,14 @@ namespace {
 constexpr int Rounds = 4;
 constexpr float HalfRound = 0.2F;
 
+/// A failed wait must not leave the player without the element; what it has failed with goes on.
+void PutOnQuietly(Object& element, std::string_view property) {
+  try {
+    element.Put(property, true);
+  } catch (...) {
+  }
+}
+
 }  // namespace
 
 Blinker::Blinker(Control& control, Timer& timer)
@@ -53,7 +61,13 @@ bool Blinker::PutOffAndOn(Object& element, std::string_view property) {
   for (int round = 0; round < Rounds; ++round) {
     for (const bool on : {false, true}) {
       element.Put(property, on);
-      if (!control || !Wait(HalfRound)) return false;
+      if (!control) return false;
+      try {
+        if (!Wait(HalfRound)) return false;
+      } catch (...) {
+        if (control && !on) PutOnQuietly(element, property);
+        throw;
+      }
     }
   }
   return true;

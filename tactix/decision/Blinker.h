@@ -10,7 +10,8 @@
 
 namespace tactix {
 
-/// Waits on a control's blink timer while the user interface goes on running, and flashes elements that way.
+/// Waits on a control's blink timer while the user interface goes on running, and flashes elements that way. A flash
+/// that fails in a wait ends with its element put on.
 class TACTIX_EXPORT Blinker {
  public:
   Blinker(Control& control, Timer& timer);

@@ -1,5 +1,6 @@
 #include "tactix/decision/Decision.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "tactix/decision/DecisionPlays.h"
@@ -64,7 +65,7 @@ Decision::Decision(Site& site)
   ConnectWidgets();
 }
 
-Decision::~Decision() = default;
+Decision::~Decision() { MarkAsGone(); }
 
 void Decision::ConnectWidgets() {
   const auto boxKeys = [this](const KeyPress& key) {
@@ -99,8 +100,8 @@ void Decision::ConnectWidgets() {
 
 // Setting up for a hand.
 
-void Decision::SetupTheDecisionBox(const Variant& thisDCB) { SetupTheBox(BlockReader(thisDCB)); }
-void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { SetupTheBox(BlockReader(thisDCB)); }
+void Decision::SetupTheDecisionBox(const Variant& thisDCB) { SetupTheBox(BlockReader(thisDCB, *this)); }
+void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { SetupTheBox(BlockReader(thisDCB, *this)); }
 
 void Decision::SetupTheBox(const BlockReader& block) {
   const Weak<Decision> self(this);
@@ -110,16 +111,18 @@ void Decision::SetupTheBox(const BlockReader& block) {
 }
 
 void Decision::SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB), userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this), userKelvoEdition);
 }
 void Decision::SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB), userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this), userKelvoEdition);
 }
 
 void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
   // Any read may run code of the host's: it may destroy the box, or set it up for another hand.
   const Weak<Decision> self(this);
-  edition_ = edition;
+  // What the edition given up runs as it ends may destroy the box, too: it ends last.
+  ObjectRef before = edition;
+  edition_.swap(before);
   std::string text = std::move(scratch_);
   text.assign("Is &");
   block.AppendText(BlockField::MidCardsAre, text);
@@ -142,8 +145,8 @@ void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
   scratch_ = std::move(text);
 }
 
-void Decision::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
-void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
+void Decision::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
+void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
 
 void Decision::SetupButtons(const BlockReader& block) {
   const Weak<Decision> self(this);
@@ -161,8 +164,8 @@ void Decision::SetupButtons(const BlockReader& block) {
 
 void Decision::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void Decision::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
-void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
+void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void Decision::Decode(const BlockReader& block) {
   // Kept, since reading a host's object may destroy the box.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
@@ -198,16 +201,20 @@ void Decision::DecisionBoxType(Coded<TypeOfDecisionBox> type) {
 void Decision::ApplyDecisionBoxType() {
   const bool forTable = decisionBoxType_ == TypeOfDecisionBox::forUseWithBlackjackTable;
   if (!forTable && decisionBoxType_ != TypeOfDecisionBox::forUseWithDrills) return;
-  Children.cmdHoleCard.Visible(forTable);
-  Children.cmdTensRatio.Visible(forTable);
-  Children.AdviceButton.Extender().Visible(forTable);
-  Children.cmdOptions.Visible(forTable);
+  // The focus moves away from what is hidden or disabled, and whoever hears of that may destroy the box.
+  const Weak<Decision> self(this);
   lowerRowShown_ = forTable;
+  for (Widget* element : std::initializer_list<Widget*>{&Children.cmdHoleCard, &Children.cmdTensRatio,
+                                                        &Children.AdviceButton.Extender(), &Children.cmdOptions}) {
+    element->Visible(forTable);
+    if (!self) return;
+  }
   if (forTable) {
     Children.cmdHoleCard.Enabled(true);
     Children.cmdTensRatio.Enabled(true);
     Children.AdviceButton.Enabled(false);
     Children.cmdOptions.Enabled(false);
+    if (!self) return;
   }
   Arrange();
 }

@@ -97,7 +97,7 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   if (!self) return;
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  widgets_->DecisionToolBar.Visible(running);
+  if (self) widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.
@@ -127,7 +127,7 @@ ObjectRef DecisionToolBarControl::KelvoEdition() {
   if (edition_) return edition_;
   const Weak<DecisionToolBarControl> self(this);
   const ObjectRef created = DefaultEdition::Create();
-  if (self) edition_ = created;
+  if (self) TakeTheEdition(created);
   return created;
 }
 
@@ -141,8 +141,10 @@ void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdi
 
 // Setting up for a hand.
 
-void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) {
+  SetupForAHand(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -152,12 +154,12 @@ void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
 }
 
 void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 
 void DecisionToolBarControl::SetupBar(const BlockReader& block) {
@@ -176,8 +178,10 @@ void DecisionToolBarControl::SetupBar(const BlockReader& block) {
   if (self) prompt_ = std::move(prompt);
 }
 
-void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) {
+  SetupButtons(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -195,8 +199,8 @@ void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
 
 void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
-void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void DecisionToolBarControl::Decode(const BlockReader& block) {
   // Kept, since reading a host's object may destroy the bar.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
@@ -306,8 +310,8 @@ const PropertyTable& DecisionToolBarControl::Properties() const {
   };
   static const PropertyTable table =
       PropertyTable()
-          .OnFailedRead(OnFailure::TakeTheDefault)
-          .OnFailedWrite(OnFailure::Report)
+          .FailedReads(OnFailedRead::TakeTheDefault)
+          .FailedWrites(OnFailure::Report)
           // Saved as bottom whatever the docking is, and before all others, although it is read last: saved forms rely
           // on it.
           .SavedBeside({.name = std::string(AlignmentName),

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 #include "tactix/decision/Blinker.h"
 #include "tactix/decision/DefaultEdition.h"
@@ -90,7 +91,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
 
   /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
   ObjectRef KelvoEdition();
-  void KelvoEdition(const ObjectRef& edition) { edition_ = edition; }
+  void KelvoEdition(const ObjectRef& edition) { TakeTheEdition(edition); }
   /// The edition code last read, 0 by default. Nothing in the toolbar depends on it.
   std::int16_t thisKelvoEdition() const { return shortEdition_; }
   /// Reads the object's "thisKelvoEdition"; null fails with 91.
@@ -193,6 +194,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void FlashTheAdvisedButton();
   void ShowTheResponseOnTheButtons();
   void UnpressAllPredictionButtons();
+  /// Returns the edition given up: what its end runs may destroy the toolbar.
+  ObjectRef TakeTheEdition(ObjectRef edition) { return std::exchange(edition_, std::move(edition)); }
   void Decode(const BlockReader& block);
   void SetupForAHand(const BlockReader& block);
   void SetupBar(const BlockReader& block);

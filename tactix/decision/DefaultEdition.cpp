@@ -15,7 +15,8 @@ DefaultEdition::Factory& TheFactory() {
 
 }  // namespace
 
-void DefaultEdition::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+// The old one ends last: what it holds may run code of the host's.
+void DefaultEdition::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
 
 ObjectRef DefaultEdition::Create() {
   const Factory create = TheFactory();  // a copy: it may set another factory while it runs

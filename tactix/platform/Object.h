@@ -12,6 +12,10 @@ class Variant;
 
 /// An object whose members are looked up by name while the program runs. Names compare without case (ASCII letters
 /// only). A class overrides what it has and passes every other name on to this base, which fails with 438.
+///
+/// Any of the three may fail with an Error, throw something else, call back into the control that asks, and destroy the
+/// control or its window; the control keeps the object until its answer is there. The destructor may do the same but
+/// throw: a control may let go of the last reference to an object of the host's.
 class TACTIX_EXPORT Object {
  public:
   virtual ~Object();

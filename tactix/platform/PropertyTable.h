@@ -9,12 +9,13 @@
 #include "tactix/platform/Control.h"
 #include "tactix/platform/Export.h"
 #include "tactix/platform/PropertyRows.h"
+#include "tactix/platform/Tolerance.h"
 
 namespace tactix {
 
-/// What happens where a saved property cannot be read or written: the next one has its turn, the error ends it and
-/// reaches the container, or (for reading) the property takes its default.
-enum class OnFailure { PassOver, Report, TakeTheDefault };
+/// What happens where a saved property cannot be read: the next one has its turn, the error ends it and reaches the
+/// container, or the property takes its default.
+enum class OnFailedRead { PassOver, Report, TakeTheDefault };
 
 enum class SavedWays { BothWays, SavedOnly, RestoredOnly };
 
@@ -54,8 +55,9 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
   /// A default that is the same for all controls of the class.
   static Getter Always(Variant value);
 
-  PropertyTable& OnFailedRead(OnFailure onFailure);
-  PropertyTable& OnFailedWrite(OnFailure onFailure);
+  /// PassOver by default, both.
+  PropertyTable& FailedReads(OnFailedRead onFailure);
+  PropertyTable& FailedWrites(OnFailure onFailure);
 
   /// In the order in which they are saved and restored.
   const std::vector<SavedRow>& SavedRows() const { return saved_; }
@@ -66,7 +68,7 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
 
  private:
   std::vector<SavedRow> saved_;
-  OnFailure onFailedRead_ = OnFailure::PassOver;
+  OnFailedRead onFailedRead_ = OnFailedRead::PassOver;
   OnFailure onFailedWrite_ = OnFailure::PassOver;
 };
 

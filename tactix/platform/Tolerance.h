@@ -14,6 +14,18 @@ void IgnoringErrors(Step&& step) {
   }
 }
 
+/// What becomes of a step's error.
+enum class OnFailure { PassOver, Report };
+
+template <class Step>
+void Run(OnFailure onFailure, Step&& step) {
+  if (onFailure == OnFailure::PassOver) {
+    IgnoringErrors(step);
+  } else {
+    step();
+  }
+}
+
 /// Runs one statement and passes over "object not set", so that the next statement runs. Every other error goes on. A
 /// routine that resumes after 91 wraps each of its statements, not itself.
 template <class Statement>

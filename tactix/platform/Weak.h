@@ -38,7 +38,9 @@ class Trackable {
   Trackable& operator=(const Trackable&) = delete;
 
  protected:
-  ~Trackable() {
+  ~Trackable() { MarkAsGone(); }
+  /// Weak pointers read null from now on: for a destructor that runs code of others before it gets here.
+  void MarkAsGone() {
     while (first_) first_->Watch(nullptr);
   }
 

@@ -69,7 +69,7 @@ constexpr CountLine CountLines[] = {
 
 DecisionRegister::DecisionRegister(Site& site) : Control(site) { BuildWidgets(); }
 
-DecisionRegister::~DecisionRegister() = default;
+DecisionRegister::~DecisionRegister() { MarkAsGone(); }
 
 void DecisionRegister::BuildWidgets() {
   Extender().DesignSize(DesignWidth, StandardHeight);

@@ -72,6 +72,8 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   static constexpr std::int32_t Lowest = static_cast<std::int32_t>(CountStrategyPossibilities::LowestCardCountIndex);
   static constexpr std::int32_t Highest = static_cast<std::int32_t>(CountStrategyPossibilities::HighestCardCountIndex);
 
+  /// Empty also where the list is gone.
+  std::string Describe(std::int16_t system) const;
   /// False where there is no such system.
   bool Select(std::int32_t system);
 

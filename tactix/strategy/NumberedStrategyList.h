@@ -39,10 +39,11 @@ class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
   void Report(std::int32_t row) override;
   /// Fills the rows of the seat and of all strategies up to the highest.
   void FillUpTo(std::int16_t highest);
-  /// The properties of a list that passes over what cannot be read or written, or reports it.
-  static PropertyTable NumberedProperties(OnFailure onFailure);
-  static std::string DescribePlaying(std::int16_t strategy);
-  static std::string DescribeBetting(std::int16_t strategy);
+  /// The properties of these lists; they pass over what cannot be read or written.
+  static PropertyTable NumberedProperties();
+  /// Empty also where the list is gone.
+  std::string DescribePlaying(std::int16_t strategy) const;
+  std::string DescribeBetting(std::int16_t strategy) const;
 };
 
 }  // namespace tactix

@@ -14,15 +14,6 @@ constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 390;
 constexpr float SizeOfFont = 8.25F;
 
-template <class Step>
-void Run(OnFailure onFailure, Step&& step) {
-  if (onFailure == OnFailure::PassOver) {
-    IgnoringErrors(step);
-  } else {
-    step();
-  }
-}
-
 }  // namespace
 
 StrategyListControl::StrategyListControl(Site& site, const StrategyListRules& rules) : Control(site), rules_(rules) {}
@@ -59,8 +50,16 @@ void StrategyListControl::Visible(bool visible) { Box().Visible(visible); }
 
 void StrategyListControl::LoadTheStrategyRange() {
   const Weak<StrategyListControl> self(this);
-  const StrategyRange range = StrategyListData::Catalogue()->GetStrategyRange();
+  const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue();
+  if (!self) return;
+  const StrategyRange range = catalogue->GetStrategyRange();
   if (self) range_ = range;
+}
+
+std::shared_ptr<StrategyCatalogue> StrategyListControl::Catalogue() const {
+  const Weak<const StrategyListControl> self(this);
+  std::shared_ptr<StrategyCatalogue> catalogue = StrategyListData::Catalogue();
+  return self ? catalogue : nullptr;
 }
 
 void StrategyListControl::LoadStrategiesFromIniFile() {
@@ -107,16 +106,16 @@ void StrategyListControl::ReportTheStrategySelection() {
 }
 
 void StrategyListControl::GoBackToTheLastGoodRow() {
-  const Weak<StrategyListControl> self(this);
+  struct Refusing {
+    Weak<StrategyListControl> list;
+    ~Refusing() {
+      if (list) list->refusing_ = false;
+    }
+  };
   // Going back is no selection: it is not reported, even where that row is unusable too.
   refusing_ = true;
-  try {
-    Box().ListIndex(lastGoodListIndex_);
-  } catch (...) {
-    if (self) refusing_ = false;
-    throw;
-  }
-  if (self) refusing_ = false;
+  const Refusing untilTheEnd{Weak(this)};
+  Box().ListIndex(lastGoodListIndex_);
 }
 
 void StrategyListControl::Resized() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -90,6 +91,8 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   void SetUpBox();
   /// Clears, fills the rows of the numbers first ... last, and sets the text. An error ends it where it stands.
   void Fill(std::int32_t first, std::int32_t last);
+  /// The catalogue; null where making one has destroyed the list.
+  std::shared_ptr<StrategyCatalogue> Catalogue() const;
   const StrategyRange& Range() const { return range_; }
   /// The number being filled; after a fill, the last one visited.
   std::int16_t FilledNumber() const { return filledNumber_; }

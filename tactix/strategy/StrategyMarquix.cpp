@@ -36,7 +36,7 @@ StrategyMarquix::StrategyMarquix(Site& site) : Control(site), innerSite_(site), 
       [this](std::int32_t& strategy) { Events.StrategySelectionChanged.Raise(strategy); });
 }
 
-StrategyMarquix::~StrategyMarquix() = default;
+StrategyMarquix::~StrategyMarquix() { MarkAsGone(); }
 
 void StrategyMarquix::Arrange() {
   // The mark has its place at the banner's end, shown or not: the banner's text does not jump.
@@ -85,8 +85,8 @@ const PropertyTable& StrategyMarquix::Properties() const {
   const auto controlType = [](Self& self) { return self.ControlType(); };
   static const PropertyTable table =
       PropertyTable()
-          .OnFailedRead(OnFailure::Report)
-          .OnFailedWrite(OnFailure::Report)
+          .FailedReads(OnFailedRead::Report)
+          .FailedWrites(OnFailure::Report)
           .Property(CaptionName, &Self::Caption, &Self::Caption)
           .SavedWithDefault(PropertyTable::GetBy(caption),
                             {.restore = PropertyTable::SetBy(restoreCaption), .always = true})
