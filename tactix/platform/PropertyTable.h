@@ -11,6 +11,7 @@
 #include "tactix/platform/Export.h"
 #include "tactix/platform/Object.h"
 #include "tactix/platform/Variant.h"
+#include "tactix/platform/Weak.h"
 
 namespace tactix {
 
@@ -79,8 +80,12 @@ class TACTIX_EXPORT PropertyTable {
   static auto Setter(void (C::*set)(S)) {
     using Plain = std::remove_cvref_t<S>;
     using Stored = std::conditional_t<std::is_same_v<Plain, std::string_view>, std::string, Plain>;
-    return
-        [set](Control& control, const Variant& value) { (static_cast<C&>(control).*set)(FromVariant<Stored>(value)); };
+    return [set](Control& control, const Variant& value) {
+      // Converting may ask an object of the host's, which may end the control.
+      const Weak<C> self(static_cast<C&>(control));
+      const Stored converted = FromVariant<Stored>(value);
+      if (self) ((*self.Get()).*set)(converted);
+    };
   }
   template <class T>
   static Variant ToVariant(const T& value) {
