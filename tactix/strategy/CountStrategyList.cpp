@@ -23,7 +23,6 @@ constexpr StrategyListRules Rules = {
     .saved = SavedAfterTheSystem,
     .failedWrite = OnFailure::Report,
     .failedResize = OnFailure::Report,
-    .boxSize = BoxSize::Width,
     .rowWidth = RowWidth::SixteenBits,
 };
 

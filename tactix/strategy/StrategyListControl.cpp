@@ -177,7 +177,7 @@ void StrategyListControl::ReadProperties(PropertyBag& bag) {
   for (const SavedListProperty* property : rules_.saved) {
     if (!property->set) continue;
     Run(rules_.failedRead, [&] {
-      const Variant value = bag.Read(property->name, property->defaultValue(ItsSite()));
+      const Variant value = bag.Read(property->name, property->defaultValue(ItsSite())).Plain();
       if (self) property->set(Box(), value);
     });
     if (!self) return;
@@ -194,11 +194,8 @@ void StrategyListControl::WriteProperties(PropertyBag& bag) {
 }
 
 void StrategyListControl::Resized() {
-  Run(rules_.failedResize, [this] {
-    ListBox& box = Box();
-    const float height = rules_.boxSize == BoxSize::Width ? box.Height() : Extender().ScaleHeight();
-    box.Place(box.Left(), box.Top(), Extender().ScaleWidth(), height);
-  });
+  // The box keeps its height.
+  Run(rules_.failedResize, [this] { Box().Width(Extender().ScaleWidth()); });
 }
 
 void StrategyListControl::Terminated() {

@@ -14,8 +14,6 @@ enum class OnFailure { PassOver, Report };
 
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
-enum class BoxSize { Width, WidthAndHeight };
-
 /// In how many bits ListIndex works out the row of a number: in sixteen, 32767 overflows (6).
 enum class RowWidth { SixteenBits, ThirtyTwoBits };
 
@@ -33,8 +31,6 @@ struct StrategyListRules {
   OnFailure failedRead = OnFailure::PassOver;
   OnFailure failedWrite = OnFailure::PassOver;
   OnFailure failedResize = OnFailure::PassOver;
-  /// What of the control's size the box takes.
-  BoxSize boxSize = BoxSize::WidthAndHeight;
   RowWidth rowWidth = RowWidth::ThirtyTwoBits;
   AtTheEnd atTheEnd = AtTheEnd::KeepTheCollection;
 };
