@@ -83,10 +83,14 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   Extender().Top(0);
   if (!self) return;
   Extender().Left(0);
-  if (!self) return;
+  if (self) ShowTheBarOrItsIdentification();
+}
+
+void DecisionToolBarControl::ShowTheBarOrItsIdentification() {
+  const Weak<DecisionToolBarControl> self(this);
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  widgets_->DecisionToolBar.Visible(running);
+  if (self) widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.
@@ -321,6 +325,15 @@ constexpr DecisionToolBarControl::SavedVisibility DecisionToolBarControl::SavedV
     {"DealerStrengthButtonsVisibility", &DecisionToolBarControl::dealerStrengthVisibility_},
     {"StatusButtonVisibility", &DecisionToolBarControl::statusVisibility_},
 };
+
+// A form designer sees the identification from the first moment on; a new bar stays where it has been dropped.
+void DecisionToolBarControl::InitProperties() { ShowTheBarOrItsIdentification(); }
+
+void DecisionToolBarControl::AmbientChanged() {
+  const Weak<DecisionToolBarControl> self(this);
+  ShowTheBarOrItsIdentification();
+  if (self) Control::AmbientChanged();
+}
 
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
   // A bag is the host's: it may destroy the bar in the middle of reading and writing.

@@ -32,6 +32,8 @@ enum class PredictionGroup;
 /// an edge of its window. It reports clicks and keeps the player's predictions until the host collects them; it judges
 /// nothing.
 ///
+/// While the host runs it shows the buttons; in a form designer it shows its name instead.
+///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties, and
 /// fail as the ones of Decision do.
 class TACTIX_EXPORT DecisionToolBarControl : public Control {
@@ -102,6 +104,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void BlinkTime(const float& timeAmount);
 
   /// A saved property that cannot be read has its default: bottom, and 0 for the visibilities.
+  void InitProperties() override;
+  void AmbientChanged() override;
   void ReadProperties(PropertyBag& bag) override;
   /// A property that cannot be written ends it with the bag's error.
   void WriteProperties(PropertyBag& bag) override;
@@ -165,6 +169,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   std::int32_t RecordOf(PredictionGroup group) const;
   void Record(PredictionGroup group, std::int32_t value);
   void PlaceTheDecisionBAR();
+  void ShowTheBarOrItsIdentification();
   void Arrange();
   void ButtonWasClicked(const ToolButton& button);
   void FlashTheAdvisedButton();
