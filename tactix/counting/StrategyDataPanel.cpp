@@ -31,7 +31,7 @@ void ShowClumpType(StrategyDataPanel& panel, const Variant& value) {
   panel.Children.datClumpType.Caption(panel.GetClumpStuff(clumpType.ToInteger()));
 }
 
-/// A count of hands as its shortest decimal text says it: 0.1 in a single is no longer a bit more than that.
+/// A count of hands as its decimal text says it: 0.1 in a single is no longer a bit more than that.
 double AsItsTextSays(float hands) {
   // These have no text that reads back; they fail as the division by them would.
   if (!std::isfinite(hands)) throw Error(Error::Overflow);
@@ -113,7 +113,7 @@ void StrategyDataPanel::Display(const ObjectRef& block) {
   if (!data) throw Error(Error::ObjectNotSet);
   const Weak<StrategyDataPanel> self(this);
   for (const Field& field : Fields) {
-    const Variant value = data->Get(field.name);
+    const Variant value = data->Get(field.name).Plain();
     if (!self) return;
     field.show(*this, value);
   }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "tactix/decision/DecisionPlays.h"
+#include "tactix/platform/CaseMapping.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
 #include "tactix/shared/EnumerationNames.h"
@@ -46,14 +47,6 @@ const HitCard* HitCardOf(std::int16_t keys) {
     if (hitCard.keys == keys) return &hitCard;
   }
   return nullptr;
-}
-
-std::string UpperCase(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return upper;
 }
 
 }  // namespace
@@ -106,23 +99,24 @@ void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { SetupTheBox(B
 void Decision::SetupTheBox(const BlockReader& block) {
   const Weak<Decision> self(this);
   Decode(block);
-  if (self) SetupBox(block, edition_);
+  if (self) SetupBox(block);
   if (self) CheckThePrompt(promptState_);
 }
 
+// The edition is kept before the block is looked at, even where that is none. The old one goes last: it may be the
+// last thing that keeps the host's block, and the box.
 void Decision::SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB, *this), userKelvoEdition);
+  const ObjectRef before = std::exchange(edition_, userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this));
 }
 void Decision::SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB, *this), userKelvoEdition);
+  const ObjectRef before = std::exchange(edition_, userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this));
 }
 
-void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
+void Decision::SetupBox(const BlockReader& block) {
   // Any read may run code of the host's: it may destroy the box, or set it up for another hand.
   const Weak<Decision> self(this);
-  // What the edition given up runs as it ends may destroy the box, too: it ends last.
-  ObjectRef before = edition;
-  edition_.swap(before);
   std::string text = std::move(scratch_);
   text.assign("Is &");
   block.AppendText(BlockField::MidCardsAre, text);

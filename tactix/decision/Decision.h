@@ -51,7 +51,8 @@ class TACTIX_EXPORT Decision : public Control {
   /// The one call that a host needs for each decision: copies the block, shows the plays that it allows and its prompt.
   void SetupTheDecisionBox(const Variant& thisDCB);
   void SetupTheDecisionBox(const DecisionBlock& thisDCB);
-  /// Sets up from the block that is handed over, not from the copy, and keeps the edition object for Show.
+  /// Keeps the edition object for Show, whatever the block is; then sets up from the block that is handed over, not
+  /// from the copy.
   void SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition);
   void SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition);
   /// Under manual restrictions shows Split, Surrender and Double when they are legal, otherwise all three.
@@ -104,7 +105,8 @@ class TACTIX_EXPORT Decision : public Control {
   /// The box's tool tip, empty by default.
   const std::string& ToolTip() const;
   void ToolTip(std::string_view text);
-  /// Names the strategy behind the advice in the advice button's tool tip, in upper case (ASCII letters).
+  /// Names the strategy behind the advice in the advice button's tool tip, in upper case: Latin, Greek and Cyrillic
+  /// letters.
   void ToolTipMessage(std::string_view toolTipStrategy);
   /// Always "07-08-2001 - 21:00"; what is written is ignored.
   std::string Qualifier() const;
@@ -221,7 +223,7 @@ class TACTIX_EXPORT Decision : public Control {
   void CheckThePrompt(bool on);
   void Decode(const BlockReader& block);
   void SetupTheBox(const BlockReader& block);
-  void SetupBox(const BlockReader& block, const ObjectRef& edition);
+  void SetupBox(const BlockReader& block);
   void SetupButtons(const BlockReader& block);
   void Choose(const DecisionPlay& play);
   void PlayButtonMoved(const DecisionPlay& play, const MouseState& mouse);

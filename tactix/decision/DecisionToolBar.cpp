@@ -94,7 +94,11 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   Extender().Top(0);
   if (!self) return;
   Extender().Left(0);
-  if (!self) return;
+  if (self) ShowTheBarOrItsIdentification();
+}
+
+void DecisionToolBarControl::ShowTheBarOrItsIdentification() {
+  const Weak<DecisionToolBarControl> self(this);
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
   if (self) widgets_->DecisionToolBar.Visible(running);
@@ -292,6 +296,15 @@ void DecisionToolBarControl::Unpress(ButtonGroup group) {
 }
 
 // Saved properties.
+
+// A form designer sees the identification from the first moment on; a new bar stays where it has been dropped.
+void DecisionToolBarControl::InitProperties() { ShowTheBarOrItsIdentification(); }
+
+void DecisionToolBarControl::AmbientChanged() {
+  const Weak<DecisionToolBarControl> self(this);
+  ShowTheBarOrItsIdentification();
+  if (self) Control::AmbientChanged();
+}
 
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
   const Weak<DecisionToolBarControl> self(this);

@@ -37,6 +37,8 @@ enum class ButtonGroup { HitCard, HoleCard, TensRatio, DealerStrength, Status };
 /// an edge of its window. It reports clicks and keeps the player's predictions until the host collects them; it judges
 /// nothing.
 ///
+/// While the host runs it shows the buttons; in a form designer it shows its name instead.
+///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties, and
 /// fail as the ones of Decision do.
 class TACTIX_EXPORT DecisionToolBarControl : public Control {
@@ -129,6 +131,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void BlinkTime(const float& timeAmount);
 
   /// A saved property that cannot be read has its default: bottom, and 0 for the visibilities.
+  void InitProperties() override;
+  void AmbientChanged() override;
   void ReadProperties(PropertyBag& bag) override;
   void Resized() override;
   /// A property that cannot be written ends the save with the bag's error.
@@ -189,6 +193,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   std::int32_t RecordOf(ButtonGroup group) const;
   void Record(ButtonGroup group, std::int32_t value);
   void PlaceTheDecisionBAR();
+  void ShowTheBarOrItsIdentification();
   void Arrange();
   void ButtonWasClicked(const ToolButton& button);
   void FlashTheAdvisedButton();

@@ -37,7 +37,8 @@ class TACTIX_EXPORT Object {
 /// A reference to an object of the host's or the library's; may be null, which fails with 91 when it is used.
 using ObjectRef = std::shared_ptr<Object>;
 
-/// The name of an object's default property: the one that is meant when a value is assigned to the object itself.
+/// The name of an object's default property: the one that is meant when a value is assigned to the object itself, or
+/// the object is taken as a value.
 inline constexpr std::string_view DefaultPropertyName = "";
 
 /// Whether two names are the same member: equal but for the case of ASCII letters.

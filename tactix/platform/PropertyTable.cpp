@@ -45,7 +45,7 @@ void PropertyTable::Restore(Control& control, PropertyBag& bag) const {
     const Variant defaultValue = row.defaultValue(control);
     if (!self) return;
     try {
-      const Variant value = bag.Read(row.name, defaultValue);
+      const Variant value = bag.Read(row.name, defaultValue).Plain();
       if (self) row.restore(control, value);
     } catch (const Error&) {
       if (onFailedRead_ == OnFailedRead::Report) throw;

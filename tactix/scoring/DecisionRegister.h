@@ -30,7 +30,8 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   void NumberOfBreakDecisions(std::int16_t count) { numberOfBreakDecisions_ = count; }
 
   /// StandardDecisionRegister by default, and again whenever saved properties are read. Decides how high the register
-  /// is from the next time it is displayed.
+  /// is from the next time it is displayed: 1420 or 1800 twips, in a container that counts in pixels the nearest whole
+  /// number of them.
   Coded<DecisionRegisterType> TypeOfDecisionRegister() const { return typeOfDecisionRegister_; }
   void TypeOfDecisionRegister(Coded<DecisionRegisterType> type) { typeOfDecisionRegister_ = type; }
 
@@ -71,6 +72,7 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   void BuildWidgets();
   void ShowTheCounts();
   void FitTheRegisterToItsType();
+  void HeightInTwips(float height);
 
   std::int16_t numberOfDecisions_ = 0;
   std::int16_t numberOfCorrectDecisions_ = 0;

@@ -51,9 +51,10 @@ void DecodeBlock(const BlockReader& from, DecisionBlock& into) {
 }
 
 void AppendDecisionPrompt(const BlockReader& block, std::string& out) {
-  const Variant hardTotal = block.Value(BlockField::HardTotal);
+  // An object's default property is asked once: both totals come of the same answer.
+  const Variant hardTotal = block.Value(BlockField::HardTotal).Plain();
   std::string total = Str(hardTotal);
-  if (HasSecondTotal(block.Value(BlockField::SoftTotal))) {
+  if (HasSecondTotal(block.Value(BlockField::SoftTotal).Plain())) {
     total += " OR ";
     AppendStr(total, Add(hardTotal, AceCountedHigh));
   }

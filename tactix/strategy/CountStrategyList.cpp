@@ -20,7 +20,6 @@ constexpr StrategyListRules Rules = {
     .fontName = {},
     .highestReportedRow = CountStrategyList::HighestReportedRow,
     .failedResize = OnFailure::Report,
-    .boxSize = BoxSize::Width,
     .rowWidth = RowWidth::SixteenBits,
 };
 

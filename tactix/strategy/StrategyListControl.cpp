@@ -119,11 +119,8 @@ void StrategyListControl::GoBackToTheLastGoodRow() {
 }
 
 void StrategyListControl::Resized() {
-  Run(rules_.failedResize, [this] {
-    ListBox& box = Box();
-    const float height = rules_.boxSize == BoxSize::Width ? box.Height() : Extender().ScaleHeight();
-    box.Place(box.Left(), box.Top(), Extender().ScaleWidth(), height);
-  });
+  // The box keeps its height.
+  Run(rules_.failedResize, [this] { Box().Width(Extender().ScaleWidth()); });
 }
 
 void StrategyListControl::Terminated() {

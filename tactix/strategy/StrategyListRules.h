@@ -10,8 +10,6 @@ namespace tactix {
 
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
-enum class BoxSize { Width, WidthAndHeight };
-
 /// In how many bits ListIndex works out the row of a number: in sixteen, 32767 overflows (6).
 enum class RowWidth { SixteenBits, ThirtyTwoBits };
 
@@ -25,8 +23,6 @@ struct StrategyListRules {
   /// Rows past this one are shown, but never reported.
   std::int32_t highestReportedRow;
   OnFailure failedResize = OnFailure::PassOver;
-  /// What of the control's size the box takes.
-  BoxSize boxSize = BoxSize::WidthAndHeight;
   RowWidth rowWidth = RowWidth::ThirtyTwoBits;
   AtTheEnd atTheEnd = AtTheEnd::KeepTheCollection;
 };
