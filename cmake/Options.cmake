@@ -33,7 +33,7 @@ endif()
 option(TACTIX_DESIGNER "Build the Qt Designer plugin" ${designerDefault})
 option(TACTIX_TRAINER "Build the blackjack trainer (without Qt: its engine only)" ${PROJECT_IS_TOP_LEVEL})
 option(TACTIX_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
-set(TACTIX_TEST_ROOMS "platform;shared;strategy;decision;scoring;counting;companion"
+set(TACTIX_TEST_ROOMS "platform;shared;strategy;decision;scoring;counting;companion;callouts"
     CACHE STRING "Rooms of the core whose own tests are built; on Qt all are tested")
 option(TACTIX_BENCH "Build the benchmarks" OFF)
 option(TACTIX_EXAMPLES "Build the examples" OFF)

@@ -4,7 +4,8 @@
 
 namespace tactix::companion {
 
-void Edition::WhenShown(ShowFunction show) { show_ = std::move(show); }
+// The old function is destroyed last: what it holds may be the last owner of this edition.
+void Edition::WhenShown(ShowFunction show) { std::swap(show_, show); }
 
 void Edition::Show(std::int16_t& modalFlag) {
   const ShowFunction show = show_;  // a copy: it may set another one while it runs

@@ -51,7 +51,7 @@ CardCountDisplayBox::CardCountDisplayBox(Site& site) : Control(site) {
   Resized();
 }
 
-CardCountDisplayBox::~CardCountDisplayBox() = default;
+CardCountDisplayBox::~CardCountDisplayBox() { MarkAsGone(); }
 
 void CardCountDisplayBox::CountBoxType(Coded<TypeOfCountBox> type) {
   countBoxType_ = type;

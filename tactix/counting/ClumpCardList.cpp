@@ -19,7 +19,7 @@ ClumpCardList::ClumpCardList(Site& site)
   Build();
 }
 
-ClumpCardList::~ClumpCardList() = default;
+ClumpCardList::~ClumpCardList() { MarkAsGone(); }
 
 const PropertyTable& ClumpCardList::Properties() const {
   using Self = ClumpCardList;

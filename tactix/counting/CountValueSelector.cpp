@@ -19,7 +19,7 @@ CountValueSelector::CountValueSelector(Site& site)
   Build();
 }
 
-CountValueSelector::~CountValueSelector() = default;
+CountValueSelector::~CountValueSelector() { MarkAsGone(); }
 
 const PropertyTable& CountValueSelector::Properties() const {
   using Self = CountValueSelector;

@@ -17,7 +17,8 @@ CounterValueObject::Factory& TheFactory() {
 
 CounterValueObject::~CounterValueObject() = default;
 
-void CounterValueObject::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+// The old factory is destroyed after the new one is in place, because destroying it may run host code.
+void CounterValueObject::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
 
 std::shared_ptr<CounterValueObject> CounterValueObject::Create() {
   const Factory create = TheFactory();  // a copy: it may set another factory while it runs

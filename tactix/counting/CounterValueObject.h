@@ -9,7 +9,11 @@
 namespace tactix {
 
 /// The number behind a spin counter, and the rules by which it is stepped. What happens at its ends is up to this
-/// object. A host may supply its own. Any operation may fail with an Error.
+/// object. A host may supply its own.
+///
+/// Any operation may fail with an Error, throw something else, call back into the counter, and destroy the counter or
+/// its window; the counter keeps its value alive until the operation has returned. The same goes for the factory and,
+/// except for throwing, for the destructor.
 class TACTIX_EXPORT CounterValueObject {
  public:
   using Factory = std::function<std::shared_ptr<CounterValueObject>()>;

@@ -7,7 +7,8 @@
 
 namespace tactix {
 
-/// How a strategy data block is made when a panel needs one of its own.
+/// How a strategy data block is made when a panel needs one of its own. The factory may fail with an Error, throw
+/// something else, call back into the panel, and destroy the panel or its window.
 class TACTIX_EXPORT DefaultStrategyData {
  public:
   using Factory = std::function<ObjectRef()>;

@@ -16,7 +16,7 @@ DualCardCountDisplay::DualCardCountDisplay(Site& site) : Control(site), innerSit
   Resized();
 }
 
-DualCardCountDisplay::~DualCardCountDisplay() = default;
+DualCardCountDisplay::~DualCardCountDisplay() { MarkAsGone(); }
 
 void DualCardCountDisplay::TrueCountValue(Coded<CardCountDisplayValueRanges> value) {
   Children.TrueCountDisplay.CountValue(value);

@@ -23,6 +23,8 @@ constexpr std::string_view FontName = "Font";
 constexpr std::int16_t LowestLimit = 1;
 constexpr std::int16_t HighestLimit = 999;
 
+constexpr auto StandardHandedness = static_cast<std::int32_t>(Handedness::RighHandSpinCounter);
+
 // Twips.
 constexpr std::int16_t StandardHeight = 360;
 constexpr std::int16_t FixedWidth = 1500;
@@ -57,7 +59,7 @@ SpinCounter::SpinCounter(Site& site) : Control(site) {
   spin.SpunDown.Connect([this] { StepDown(); });
 }
 
-SpinCounter::~SpinCounter() = default;
+SpinCounter::~SpinCounter() { MarkAsGone(); }
 
 // The number.
 
@@ -65,20 +67,29 @@ std::shared_ptr<CounterValueObject> SpinCounter::ValueObject() {
   if (value_) return value_;
   const Weak<SpinCounter> self(this);
   std::shared_ptr<CounterValueObject> made = CounterValueObject::Create();
-  if (self) value_ = made;
+  if (!self) return nullptr;
+  // The factory may have made the counter create a value of its own; that one is released last.
+  const std::shared_ptr<CounterValueObject> before = std::exchange(value_, made);
   return made;
 }
 
-std::int16_t SpinCounter::CounterValue() { return std::as_const(*ValueObject()).Value(); }
+// A value is kept alive while one of its functions runs, because the host's code there may destroy the control.
+
+std::int16_t SpinCounter::CounterValue() {
+  const std::shared_ptr<const CounterValueObject> value = ValueObject();
+  return value ? value->Value() : std::int16_t{0};
+}
+
+template <class Step>
+bool SpinCounter::Do(const Step& step) {
+  const Weak<SpinCounter> self(this);
+  if (const std::shared_ptr<CounterValueObject> value = ValueObject()) step(*value);
+  return static_cast<bool>(self);
+}
 
 template <class Step>
 void SpinCounter::Change(const Step& step) {
-  const Weak<SpinCounter> self(this);
-  // Kept alive until the step has returned, because the host's value may destroy the control.
-  const std::shared_ptr<CounterValueObject> value = ValueObject();
-  if (!self) return;
-  step(*value);
-  if (self) Refresh();
+  if (Do(step)) Refresh();
 }
 
 void SpinCounter::CounterValue(std::int16_t value) {
@@ -220,8 +231,8 @@ void SpinCounter::InitProperties() {
 }
 
 void SpinCounter::Terminated() {
-  // The member is emptied first: the destructor of the host's value may still use the control.
-  std::exchange(value_, nullptr).reset();
+  // Released last: the destructor of the host's value may use the control, and destroy it.
+  const std::shared_ptr<CounterValueObject> released = std::exchange(value_, nullptr);
   Control::Terminated();
 }
 
@@ -229,9 +240,7 @@ const PropertyTable& SpinCounter::Properties() const {
   using Self = SpinCounter;
   // The number comes back as it was saved: no limit is checked, and nothing is shown or reported before it changes.
   const auto restoreNumber = [](Self& self, std::int16_t number) {
-    const Weak<Self> still(self);
-    const std::shared_ptr<CounterValueObject> object = self.ValueObject();
-    if (still) object->Value(number);
+    self.Do([number](CounterValueObject& value) { value.Value(number); });
   };
   const auto restoreHandedness = [](Self& self, Coded<Handedness> handedness) {
     self.controlHandedness_ = handedness;
@@ -251,7 +260,7 @@ const PropertyTable& SpinCounter::Properties() const {
                         .value = PropertyTable::GetBy([](Self& self) { return self.HeightInTwips(); }),
                         .restore = PropertyTable::SetBy([](Self& self, float height) { self.HeightInTwips(height); })})
           .Property(ControlHandednessName, &Self::ControlHandedness, &Self::ControlHandedness)
-          .Saved(Coded(Handedness::RighHandSpinCounter).Value(), {.restore = PropertyTable::SetBy(restoreHandedness)})
+          .Saved(StandardHandedness, {.restore = PropertyTable::SetBy(restoreHandedness)})
           .Property(FontName, &Self::Font, &Self::Font)
           .SavedWithDefault(AmbientFontOf, {.restore = PropertyTable::SetBy(restoreFont)})
           .Property("NumberWrap", &Self::NumberWrap, &Self::NumberWrap)

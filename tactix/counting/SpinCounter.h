@@ -76,7 +76,11 @@ class TACTIX_EXPORT SpinCounter : public Control {
   } Children;
 
  private:
+  /// Null where making it has destroyed the control.
   std::shared_ptr<CounterValueObject> ValueObject();
+  /// Does something with the value. False when the control is gone.
+  template <class Step>
+  bool Do(const Step& step);
   template <class Step>
   void Change(const Step& step);
   void StepUp();

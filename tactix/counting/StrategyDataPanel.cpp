@@ -31,7 +31,7 @@ void ShowClumpType(StrategyDataPanel& panel, const Variant& value) {
   panel.Children.datClumpType.Caption(panel.GetClumpStuff(clumpType.ToInteger()));
 }
 
-/// The double with the same shortest decimal text, so that 0.1F becomes 0.1 and not 0.100000001490116.
+/// The double with the same decimal text, so that 0.1F becomes 0.1 and not 0.100000001490116.
 double AsItsTextSays(float hands) {
   // Infinity and NaN have no text that can be read back; they fail as the division by them would.
   if (!std::isfinite(hands)) throw Error(Error::Overflow);
@@ -76,7 +76,7 @@ StrategyDataPanel::StrategyDataPanel(Site& site) : Control(site), innerSite_(sit
   ReportPressesOn(Extender());
 }
 
-StrategyDataPanel::~StrategyDataPanel() = default;
+StrategyDataPanel::~StrategyDataPanel() { MarkAsGone(); }
 
 void StrategyDataPanel::ReportPressesOn(Widget& widget) {
   widget.MousePressed.Connect([this](const MouseState&) { Events.PanelClick.Raise(); });
@@ -96,12 +96,13 @@ void StrategyDataPanel::HereIsSomeStrategyDataBlockData(const ObjectRef& aStrate
 
 void StrategyDataPanel::StrategyDataBlockData(const ObjectRef& block) {
   const Weak<StrategyDataPanel> self(this);
-  if (!ownBlock_) {
-    const ObjectRef created = DefaultStrategyData::Create();
+  ObjectRef own = ownBlock_;
+  ObjectRef before;  // a block that the factory has made the panel create; released last
+  if (!own) {
+    own = DefaultStrategyData::Create();
     if (!self) return;
-    ownBlock_ = created;
+    before = std::exchange(ownBlock_, own);
   }
-  const ObjectRef own = ownBlock_;
   own->Put(DefaultPropertyName, block);
   if (self) Display(ownBlock_);
 }
@@ -112,7 +113,7 @@ void StrategyDataPanel::Display(const ObjectRef& block) {
   if (!data) throw Error(Error::ObjectNotSet);
   const Weak<StrategyDataPanel> self(this);
   for (const Field& field : Fields) {
-    const Variant value = data->Get(field.name);
+    const Variant value = data->Get(field.name).Plain();
     if (!self) return;
     field.show(*this, value);
   }

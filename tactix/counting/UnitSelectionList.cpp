@@ -30,7 +30,7 @@ UnitSelectionList::UnitSelectionList(Site& site) : Control(site) {
   Resized();
 }
 
-UnitSelectionList::~UnitSelectionList() = default;
+UnitSelectionList::~UnitSelectionList() { MarkAsGone(); }
 
 void UnitSelectionList::Resized() {
   Children.comboBettingUnits.Place(0, 0, Extender().ScaleWidth(), Extender().ScaleHeight());

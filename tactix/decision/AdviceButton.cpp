@@ -1,5 +1,8 @@
 #include "tactix/decision/AdviceButton.h"
 
+#include <algorithm>
+#include <exception>
+
 #include "tactix/platform/PropertyTable.h"
 #include "tactix/shared/Enumerations.h"
 
@@ -36,7 +39,7 @@ AdviceButton::AdviceButton(Site& site)
       [this](const std::int32_t& strategy) { StrategySelected(strategy); });
 }
 
-AdviceButton::~AdviceButton() = default;
+AdviceButton::~AdviceButton() { MarkAsGone(); }
 
 void AdviceButton::BuildMenu() {
   Children.mnuAdviceOptions.Add(Children.mnuBlinkAdviceButton);
@@ -55,13 +58,14 @@ void AdviceButton::BuildMenu() {
 }
 
 void AdviceButton::Arrange() {
-  // An open list takes the lower half; otherwise the button has all the room.
+  // The open list stands at the bottom and is as high as its box, which keeps its height. The button has the rest, or
+  // all the room while the list is closed.
   tactix::Extender& list = Children.StrategyListBox.Extender();
   const float width = Extender().ScaleWidth();
   const float height = Extender().ScaleHeight();
-  const float half = height / 2;
-  Children.cmdAdviceButton.Place(0, 0, width, list.Visible() ? half : height);
-  list.Place(0, half, width, height - half);
+  const float listHeight = std::min(Children.StrategyListBox.Children.StrategyListBox.Height(), height / 2);
+  Children.cmdAdviceButton.Place(0, 0, width, list.Visible() ? height - listHeight : height);
+  list.Place(0, height - listHeight, width, listHeight);
 }
 
 ObjectRef AdviceButton::AdviceStrategyList(const ObjectRef& thisStrategyList) {
@@ -95,20 +99,38 @@ void AdviceButton::ChooseBlinkMode(std::int16_t mode) {
 }
 
 void AdviceButton::SelectStrategy() {
-  FillTheListOnce();
+  const Weak<AdviceButton> self(this);
+  std::exception_ptr failure;
+  try {
+    if (NeedsAFill()) FillTheList();
+  } catch (...) {
+    // The list opens nevertheless; the error is reported after that.
+    failure = std::current_exception();
+  }
+  if (self) OpenTheList();
+  if (failure) std::rethrow_exception(failure);
+}
+
+void AdviceButton::OpenTheList() {
   Children.StrategyListBox.Extender().Visible(true);
   Arrange();
   Events.StrategyListBoxVisibilityChanged.Raise(true);
 }
 
-void AdviceButton::FillTheListOnce() {
-  StrategyList& list = Children.StrategyListBox;
-  if (list.Children.StrategyListBox.ListCount() > 0) return;
+bool AdviceButton::NeedsAFill() const {
+  return fillBrokeOff_ || Children.StrategyListBox.Children.StrategyListBox.ListCount() == 0;
+}
+
+void AdviceButton::FillTheList() {
+  const Weak<AdviceButton> self(this);
+  fillBrokeOff_ = true;
   try {
-    list.LoadStrategiesFromIniFile();
+    Children.StrategyListBox.LoadStrategiesFromIniFile();
+    if (self) fillBrokeOff_ = false;
   } catch (const Error& error) {
-    // Without a catalogue the list opens empty, for a host that adds rows of its own.
     if (error.Code() != Error::ObjectNotSet) throw;
+    // Without a catalogue the list opens empty, for a host that adds rows of its own.
+    if (self) fillBrokeOff_ = Children.StrategyListBox.Children.StrategyListBox.ListCount() > 0;
   }
 }
 

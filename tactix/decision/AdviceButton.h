@@ -21,7 +21,8 @@ namespace tactix {
 
 /// The button with which a player asks for playing advice. A right click opens its options: whether it blinks when the
 /// focus comes to it, and the list from which the strategy behind the advice is chosen. The list fills itself from the
-/// catalogue when it is first opened.
+/// catalogue when it is first opened. Where the catalogue fails, the list still opens, with the rows that it got. The
+/// error then goes to the site's Unhandled, and the next opening fills the list again.
 class TACTIX_EXPORT AdviceButton : public Control {
  public:
   explicit AdviceButton(Site& site);
@@ -91,10 +92,13 @@ class TACTIX_EXPORT AdviceButton : public Control {
   void Arrange();
   void ChooseBlinkMode(std::int16_t mode);
   void SelectStrategy();
-  void FillTheListOnce();
+  void OpenTheList();
+  bool NeedsAFill() const;
+  void FillTheList();
   void StrategySelected(std::int32_t strategy);
 
   Blinker blinker_;
+  bool fillBrokeOff_ = false;
   std::int16_t blinkMode_ = 0;
   std::int16_t whichStrategyToUse_ = 0;
 };

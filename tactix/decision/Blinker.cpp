@@ -14,6 +14,15 @@ namespace {
 constexpr int Rounds = 4;
 constexpr float HalfRound = 0.2F;
 
+/// Shows or enables the element after a failed wait, so that the player is not left without it. Its own error is
+/// ignored: the wait's error reaches the caller.
+void PutOnQuietly(Object& element, std::string_view property) {
+  try {
+    element.Put(property, true);
+  } catch (...) {
+  }
+}
+
 }  // namespace
 
 Blinker::Blinker(Control& control, Timer& timer)
@@ -53,7 +62,13 @@ bool Blinker::PutOffAndOn(Object& element, std::string_view property) {
   for (int round = 0; round < Rounds; ++round) {
     for (const bool on : {false, true}) {
       element.Put(property, on);
-      if (!control || !Wait(HalfRound)) return false;
+      if (!control) return false;
+      try {
+        if (!Wait(HalfRound)) return false;
+      } catch (...) {
+        if (control && !on) PutOnQuietly(element, property);
+        throw;
+      }
     }
   }
   return true;

@@ -10,7 +10,8 @@
 
 namespace tactix {
 
-/// Waits on a control's blink timer while the user interface goes on running, and flashes elements with such waits.
+/// Waits on a control's blink timer while the user interface goes on running, and flashes elements with such waits. A
+/// flash that fails during a wait leaves its element shown or enabled.
 class TACTIX_EXPORT Blinker {
  public:
   Blinker(Control& control, Timer& timer);

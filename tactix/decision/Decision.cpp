@@ -1,8 +1,10 @@
 #include "tactix/decision/Decision.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "tactix/decision/DecisionPlays.h"
+#include "tactix/platform/CaseMapping.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
 #include "tactix/shared/EnumerationNames.h"
@@ -47,14 +49,6 @@ const HitCard* HitCardOf(std::int16_t keys) {
   return nullptr;
 }
 
-std::string UpperCase(std::string_view text) {
-  std::string upper(text);
-  for (char& c : upper) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return upper;
-}
-
 }  // namespace
 
 Decision::Decision(Site& site)
@@ -64,7 +58,7 @@ Decision::Decision(Site& site)
   ConnectWidgets();
 }
 
-Decision::~Decision() = default;
+Decision::~Decision() { MarkAsGone(); }
 
 void Decision::ConnectWidgets() {
   const auto boxKeys = [this](const KeyPress& key) {
@@ -99,27 +93,30 @@ void Decision::ConnectWidgets() {
 
 // Setting up for a hand.
 
-void Decision::SetupTheDecisionBox(const Variant& thisDCB) { SetupTheBox(BlockReader(thisDCB)); }
-void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { SetupTheBox(BlockReader(thisDCB)); }
+void Decision::SetupTheDecisionBox(const Variant& thisDCB) { SetupTheBox(BlockReader(thisDCB, *this)); }
+void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { SetupTheBox(BlockReader(thisDCB, *this)); }
 
 void Decision::SetupTheBox(const BlockReader& block) {
   const Weak<Decision> self(this);
   Decode(block);
-  if (self) SetupBox(block, edition_);
+  if (self) SetupBox(block);
   if (self) CheckThePrompt(promptState_);
 }
 
+// The edition is kept before the block is looked at, even where that is no block. The old edition is released last: it
+// may be all that keeps the host's block and the box alive.
 void Decision::SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB), userKelvoEdition);
+  const ObjectRef before = std::exchange(edition_, userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this));
 }
 void Decision::SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  SetupBox(BlockReader(thisDCB), userKelvoEdition);
+  const ObjectRef before = std::exchange(edition_, userKelvoEdition);
+  SetupBox(BlockReader(thisDCB, *this));
 }
 
-void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
+void Decision::SetupBox(const BlockReader& block) {
   // Each read may run host code, which may destroy the box or set it up for another hand.
   const Weak<Decision> self(this);
-  edition_ = edition;
   std::string text = std::move(scratch_);
   text.assign("Is &");
   block.AppendText(BlockField::MidCardsAre, text);
@@ -142,8 +139,8 @@ void Decision::SetupBox(const BlockReader& block, const ObjectRef& edition) {
   scratch_ = std::move(text);
 }
 
-void Decision::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
-void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
+void Decision::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
+void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
 
 void Decision::SetupButtons(const BlockReader& block) {
   const Weak<Decision> self(this);
@@ -161,8 +158,8 @@ void Decision::SetupButtons(const BlockReader& block) {
 
 void Decision::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void Decision::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
-void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
+void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void Decision::Decode(const BlockReader& block) {
   // A second owner: reading a host's object may destroy the box, and the copy must outlive the reading.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
@@ -198,16 +195,20 @@ void Decision::DecisionBoxType(Coded<TypeOfDecisionBox> type) {
 void Decision::ApplyDecisionBoxType() {
   const bool forTable = decisionBoxType_ == TypeOfDecisionBox::forUseWithBlackjackTable;
   if (!forTable && decisionBoxType_ != TypeOfDecisionBox::forUseWithDrills) return;
-  Children.cmdHoleCard.Visible(forTable);
-  Children.cmdTensRatio.Visible(forTable);
-  Children.AdviceButton.Extender().Visible(forTable);
-  Children.cmdOptions.Visible(forTable);
+  // Hiding or disabling a widget may move the focus, and a handler that hears of that may destroy the box.
+  const Weak<Decision> self(this);
   lowerRowShown_ = forTable;
+  for (Widget* element : std::initializer_list<Widget*>{&Children.cmdHoleCard, &Children.cmdTensRatio,
+                                                        &Children.AdviceButton.Extender(), &Children.cmdOptions}) {
+    element->Visible(forTable);
+    if (!self) return;
+  }
   if (forTable) {
     Children.cmdHoleCard.Enabled(true);
     Children.cmdTensRatio.Enabled(true);
     Children.AdviceButton.Enabled(false);
     Children.cmdOptions.Enabled(false);
+    if (!self) return;
   }
   Arrange();
 }

@@ -34,7 +34,7 @@ struct DecisionPlay;
 ///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties. They
 /// fail with 424 for a variant that holds no object, 91 for a null object, 438 for a property that the object lacks,
-/// and with 6, 13 or 94 for a value that does not convert. What was done before a failure stays done.
+/// and with the conversion's error for a value that does not convert. What was done before a failure stays done.
 class TACTIX_EXPORT Decision : public Control {
  public:
   explicit Decision(Site& site);
@@ -51,7 +51,7 @@ class TACTIX_EXPORT Decision : public Control {
   /// The one call that a host needs for each decision: copies the block, shows the plays that it allows and its prompt.
   void SetupTheDecisionBox(const Variant& thisDCB);
   void SetupTheDecisionBox(const DecisionBlock& thisDCB);
-  /// Sets up without copying the block, and keeps the edition object for Show.
+  /// Keeps the edition object for Show, whatever the block is, then sets up without copying the block.
   void SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition);
   void SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition);
   /// Under manual restrictions shows Split, Surrender and Double when they are legal, otherwise all three.
@@ -105,7 +105,8 @@ class TACTIX_EXPORT Decision : public Control {
   /// The box's tool tip, empty by default.
   const std::string& ToolTip() const;
   void ToolTip(std::string_view text);
-  /// Names the strategy behind the advice in the advice button's tool tip, in upper case (ASCII letters).
+  /// Names the strategy behind the advice in the advice button's tool tip, in upper case: Latin, Greek and Cyrillic
+  /// letters.
   void ToolTipMessage(std::string_view toolTipStrategy);
   /// Always "07-08-2001 - 21:00"; what is written is ignored.
   std::string Qualifier() const;
@@ -222,7 +223,7 @@ class TACTIX_EXPORT Decision : public Control {
   void CheckThePrompt(bool on);
   void Decode(const BlockReader& block);
   void SetupTheBox(const BlockReader& block);
-  void SetupBox(const BlockReader& block, const ObjectRef& edition);
+  void SetupBox(const BlockReader& block);
   void SetupButtons(const BlockReader& block);
   void Choose(const DecisionPlay& play);
   void PlayButtonMoved(const DecisionPlay& play, const MouseState& mouse);

@@ -7,6 +7,6 @@ DecisionBAR::DecisionBAR(Site& site) : DecisionToolBarControl(site), Children(si
   Children.DecisionToolBar.ToolTipText("Right-Click to bring up DecisionBAR Settings Menu");
 }
 
-DecisionBAR::~DecisionBAR() = default;
+DecisionBAR::~DecisionBAR() { MarkAsGone(); }
 
 }  // namespace tactix

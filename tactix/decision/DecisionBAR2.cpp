@@ -9,7 +9,7 @@ DecisionBAR2::DecisionBAR2(Site& site) : DecisionToolBarControl(site), Children(
   BuildMenu();
 }
 
-DecisionBAR2::~DecisionBAR2() = default;
+DecisionBAR2::~DecisionBAR2() { MarkAsGone(); }
 
 void DecisionBAR2::BuildMenu() {
   struct Item {

@@ -94,10 +94,14 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   Extender().Top(0);
   if (!self) return;
   Extender().Left(0);
-  if (!self) return;
+  if (self) ShowTheBarOrItsIdentification();
+}
+
+void DecisionToolBarControl::ShowTheBarOrItsIdentification() {
+  const Weak<DecisionToolBarControl> self(this);
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  widgets_->DecisionToolBar.Visible(running);
+  if (self) widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.
@@ -127,7 +131,7 @@ ObjectRef DecisionToolBarControl::KelvoEdition() {
   if (edition_) return edition_;
   const Weak<DecisionToolBarControl> self(this);
   const ObjectRef created = DefaultEdition::Create();
-  if (self) edition_ = created;
+  if (self) TakeTheEdition(created);
   return created;
 }
 
@@ -141,8 +145,10 @@ void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdi
 
 // Setting up for a hand.
 
-void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) { SetupForAHand(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { SetupForAHand(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) {
+  SetupForAHand(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -152,12 +158,12 @@ void DecisionToolBarControl::SetupForAHand(const BlockReader& block) {
 }
 
 void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  KelvoEdition(userKelvoEdition);
-  SetupBar(BlockReader(thisDCB));
+  const ObjectRef before = TakeTheEdition(userKelvoEdition);
+  SetupBar(BlockReader(thisDCB, *this));
 }
 
 void DecisionToolBarControl::SetupBar(const BlockReader& block) {
@@ -177,8 +183,10 @@ void DecisionToolBarControl::SetupBar(const BlockReader& block) {
   if (self) prompt_ = std::move(prompt);
 }
 
-void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
-void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) { SetupButtons(BlockReader(thisDCB)); }
+void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { SetupButtons(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) {
+  SetupButtons(BlockReader(thisDCB, *this));
+}
 
 void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
   const Weak<DecisionToolBarControl> self(this);
@@ -196,8 +204,8 @@ void DecisionToolBarControl::SetupButtons(const BlockReader& block) {
 
 void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { DecodeThisDCB(thisDCB); }
 void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB)); }
-void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB)); }
+void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
+void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void DecisionToolBarControl::Decode(const BlockReader& block) {
   // A second owner: reading a host's object may destroy the bar, and the copy must outlive the reading.
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
@@ -290,6 +298,16 @@ void DecisionToolBarControl::Unpress(ButtonGroup group) {
 
 // Saved properties.
 
+// Shows the identification in a form designer at once, but, unlike ReadProperties, leaves a new bar where it has been
+// dropped.
+void DecisionToolBarControl::InitProperties() { ShowTheBarOrItsIdentification(); }
+
+void DecisionToolBarControl::AmbientChanged() {
+  const Weak<DecisionToolBarControl> self(this);
+  ShowTheBarOrItsIdentification();
+  if (self) Control::AmbientChanged();
+}
+
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
   const Weak<DecisionToolBarControl> self(this);
   Control::ReadProperties(bag);
@@ -307,8 +325,8 @@ const PropertyTable& DecisionToolBarControl::Properties() const {
   };
   static const PropertyTable table =
       PropertyTable()
-          .OnFailedRead(OnFailure::TakeTheDefault)
-          .OnFailedWrite(OnFailure::Report)
+          .FailedReads(OnFailedRead::TakeTheDefault)
+          .FailedWrites(OnFailure::Report)
           // Saved as bottom whatever the docking is, and before all others, although it is read last: saved forms rely
           // on it.
           .SavedBeside({.name = std::string(AlignmentName),

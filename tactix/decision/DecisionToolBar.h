@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 #include <tuple>
+#include <utility>
 
 #include "tactix/decision/Blinker.h"
 #include "tactix/decision/DefaultEdition.h"
@@ -35,6 +36,8 @@ enum class ButtonGroup { HitCard, HoleCard, TensRatio, DealerStrength, Status };
 /// What the two decision toolbars have in common: a strip of play buttons and prediction groups that the host docks to
 /// an edge of its window. It reports clicks and keeps the player's predictions until the host collects them; it judges
 /// nothing.
+///
+/// While the host runs it shows the buttons; in a form designer it shows its name instead.
 ///
 /// Operations that take a block take a DecisionBlock, or a variant holding any object with a block's properties, and
 /// fail with the same errors as those of Decision.
@@ -91,7 +94,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
 
   /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
   ObjectRef KelvoEdition();
-  void KelvoEdition(const ObjectRef& edition) { edition_ = edition; }
+  void KelvoEdition(const ObjectRef& edition) { TakeTheEdition(edition); }
   /// The edition code last read, 0 by default. Nothing in the toolbar depends on it.
   std::int16_t thisKelvoEdition() const { return shortEdition_; }
   /// Reads the object's "thisKelvoEdition"; null fails with 91.
@@ -129,6 +132,8 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void BlinkTime(const float& timeAmount);
 
   /// A saved property that cannot be read takes its default: bottom, and 0 for the visibilities.
+  void InitProperties() override;
+  void AmbientChanged() override;
   void ReadProperties(PropertyBag& bag) override;
   void Resized() override;
   /// A property that cannot be written ends the save with the bag's error.
@@ -189,11 +194,14 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   std::int32_t RecordOf(ButtonGroup group) const;
   void Record(ButtonGroup group, std::int32_t value);
   void PlaceTheDecisionBAR();
+  void ShowTheBarOrItsIdentification();
   void Arrange();
   void ButtonWasClicked(const ToolButton& button);
   void FlashTheAdvisedButton();
   void ShowTheResponseOnTheButtons();
   void UnpressAllPredictionButtons();
+  /// Replaces the edition and returns the old one, whose destructor may destroy the toolbar.
+  ObjectRef TakeTheEdition(ObjectRef edition) { return std::exchange(edition_, std::move(edition)); }
   void Decode(const BlockReader& block);
   void SetupForAHand(const BlockReader& block);
   void SetupBar(const BlockReader& block);

@@ -15,7 +15,8 @@ DefaultEdition::Factory& TheFactory() {
 
 }  // namespace
 
-void DefaultEdition::CreateWith(Factory factory) { TheFactory() = std::move(factory); }
+// The old factory is destroyed after the new one is in place, because destroying it may run host code.
+void DefaultEdition::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
 
 ObjectRef DefaultEdition::Create() {
   const Factory create = TheFactory();  // a copy: it may set another factory while it runs

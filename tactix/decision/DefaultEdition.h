@@ -7,7 +7,8 @@
 
 namespace tactix {
 
-/// How an edition object is made when a toolbar needs one and the host has given it none.
+/// How an edition object is made when a toolbar needs one and the host has given it none. The factory may fail with an
+/// Error, throw something else, call back into the toolbar, and destroy the toolbar or its window.
 class TACTIX_EXPORT DefaultEdition {
  public:
   using Factory = std::function<ObjectRef()>;

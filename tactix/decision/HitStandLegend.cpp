@@ -71,7 +71,7 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
   }
 }
 
-HitStandLegend::~HitStandLegend() = default;
+HitStandLegend::~HitStandLegend() { MarkAsGone(); }
 
 void HitStandLegend::Resized() { Children.panelLegend.Place(0, 0, Extender().ScaleWidth(), Extender().ScaleHeight()); }
 

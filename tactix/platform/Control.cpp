@@ -27,6 +27,11 @@ Control::Control(Site& site) : site_(site), extender_(*this, site) { site_.Attac
 
 Control::~Control() { site_.Detach(*this); }
 
+void Control::MarkAsGone() {
+  Trackable::MarkAsGone();
+  extender_.MarkAsGone();
+}
+
 void Control::ReadProperties(PropertyBag& bag) { Properties().Restore(*this, bag); }
 
 void Control::WriteProperties(PropertyBag& bag) { Properties().Save(*this, bag); }

@@ -17,6 +17,8 @@ class PropertyTable;
 
 /// Base of the controls. The constructor sets the design state only; then the container calls InitProperties for a new
 /// control, or ReadProperties for a saved one, and from then on the other notifications as they arise.
+///
+/// Code of the host's that a control calls may do anything: see "Being destroyed" in docs/architecture.md.
 class TACTIX_EXPORT Control : public Trackable {
  public:
   /// The site must outlive the control, except where a handler destroys both.
@@ -53,6 +55,10 @@ class TACTIX_EXPORT Control : public Trackable {
   virtual const MethodTable& Methods() const;
 
  protected:
+  /// To be called first in the destructor of every control: handles and weak pointers then find it gone. Releasing the
+  /// host's handlers and objects may run host code, which must not find a half-destroyed control.
+  void MarkAsGone();
+
   /// A saved property has changed; the name is the one that it is saved under.
   void NotifyChanged(std::string_view propertyName) { site_.PropertyChanged(propertyName); }
 

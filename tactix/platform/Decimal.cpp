@@ -11,10 +11,8 @@ namespace {
 constexpr int ExactPrecision = 36;
 
 constexpr int FirstFixedPoint = -4;  // 0.00001
-constexpr int LastFixedPoint = 15;   // 999999999999999
 
-template <class Number>
-void AppendShortestOf(std::string& out, Number value) {
+void Append(std::string& out, double value, int digitsKept, WholePart belowOne) {
   if (std::isnan(value)) {
     out += "NaN";
     return;
@@ -23,7 +21,7 @@ void AppendShortestOf(std::string& out, Number value) {
     out += value < 0 ? "-Infinity" : "Infinity";
     return;
   }
-  const Decimal decimal = Decimal::Shortest(value);
+  const Decimal decimal = Decimal::Significant(value, digitsKept);
   if (decimal.IsZero()) {
     out += '0';
     return;
@@ -32,8 +30,8 @@ void AppendShortestOf(std::string& out, Number value) {
   const std::string_view digits = decimal.Digits();
   const int count = static_cast<int>(digits.size());
   const int point = decimal.Point();
-  if (point >= FirstFixedPoint && point <= LastFixedPoint) {
-    if (point <= 0) out += '0';
+  if (point >= FirstFixedPoint && point <= digitsKept) {
+    if (point <= 0 && belowOne == WholePart::Zero) out += '0';
     for (int place = point - 1; place >= 0; --place) out += decimal.DigitAt(place);
     if (count > point) out += '.';
     for (int place = -1; place >= point - count; --place) out += decimal.DigitAt(place);
@@ -69,18 +67,6 @@ Decimal Decimal::FromScientific(std::string_view text) {
   ++decimal.point_;
   decimal.Trim();
   return decimal;
-}
-
-Decimal Decimal::Shortest(float value) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific).ptr;
-  return FromScientific({text, static_cast<std::size_t>(end - text)});
-}
-
-Decimal Decimal::Shortest(double value) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific).ptr;
-  return FromScientific({text, static_cast<std::size_t>(end - text)});
 }
 
 Decimal Decimal::Significant(double value, int digits) {
@@ -120,7 +106,10 @@ void Decimal::Trim() {
   negative_ = false;
 }
 
-void AppendShortest(std::string& out, float value) { AppendShortestOf(out, value); }
-void AppendShortest(std::string& out, double value) { AppendShortestOf(out, value); }
+void AppendNumber(std::string& out, float value, WholePart belowOne) {
+  Append(out, static_cast<double>(value), SingleDigits, belowOne);
+}
+
+void AppendNumber(std::string& out, double value, WholePart belowOne) { Append(out, value, DoubleDigits, belowOne); }
 
 }  // namespace tactix

@@ -10,9 +10,6 @@ namespace tactix {
 /// A finite number as its decimal digits: 0.d1d2d3… times ten to the power of Point(). For the platform's number texts.
 class Decimal {
  public:
-  /// The fewest digits that read back as the same number.
-  static Decimal Shortest(float value);
-  static Decimal Shortest(double value);
   /// The number rounded, half away from zero, to this many significant digits; at most 17.
   static Decimal Significant(double value, int digits);
 
@@ -39,9 +36,16 @@ class Decimal {
   bool negative_ = false;
 };
 
-/// The number's shortest text behind what `out` holds: fixed from 0.00001 to below 1E+15, else with an exponent.
-/// Infinities and NaN are words.
-void AppendShortest(std::string& out, float value);
-void AppendShortest(std::string& out, double value);
+/// How many significant digits the platform's texts give to a number.
+inline constexpr int SingleDigits = 7;
+inline constexpr int DoubleDigits = 15;
+
+/// What a text writes before the point of a number below 1.
+enum class WholePart { Zero, Nothing };
+
+/// The number's text behind what `out` holds, rounded to its significant digits: fixed from 0.00001 up to as many
+/// digits before the point, else with an exponent. Infinities and NaN are words.
+void AppendNumber(std::string& out, float value, WholePart belowOne = WholePart::Zero);
+void AppendNumber(std::string& out, double value, WholePart belowOne = WholePart::Zero);
 
 }  // namespace tactix

@@ -14,9 +14,6 @@ namespace tactix {
 
 namespace {
 
-constexpr int SingleDigits = 7;
-constexpr int DoubleDigits = 15;
-
 NumberLocale& Locale() {
   static NumberLocale locale;
   return locale;
@@ -25,7 +22,7 @@ NumberLocale& Locale() {
 template <class Number>
 void AppendStrOf(std::string& out, Number value) {
   if (!(value < 0)) out += ' ';
-  AppendShortest(out, value);
+  AppendNumber(out, value, WholePart::Nothing);
 }
 
 constexpr bool IsPlace(char c) { return c == '0' || c == '#'; }
@@ -120,7 +117,7 @@ std::string FormatFinite(Number value, int digits, std::string_view picture) {
   if (!std::isfinite(value)) throw Error(Error::InvalidProcedureCall);
   if (!picture.empty()) return Format(static_cast<double>(value), digits, picture);
   std::string out;
-  AppendShortest(out, value);
+  AppendNumber(out, value);
   return out;
 }
 
@@ -141,8 +138,15 @@ void AppendStr(std::string& out, double value) { AppendStrOf(out, value); }
 
 void AppendStr(std::string& out, const Variant& value) {
   switch (value.Type()) {
-    case VariantType::Empty:
+    case VariantType::Null:
+      out += "Null";
+      return;
     case VariantType::Boolean:
+      out += value.ToText();
+      return;
+    case VariantType::Object:
+      return AppendStr(out, value.Plain());
+    case VariantType::Empty:
     case VariantType::Integer:
     case VariantType::Long:
       return AppendStr(out, value.ToLong());
@@ -186,6 +190,8 @@ std::string FormatNumber(float value, std::string_view picture) { return FormatF
 std::string FormatNumber(double value, std::string_view picture) { return FormatFinite(value, DoubleDigits, picture); }
 
 std::string FormatNumber(const Variant& value, std::string_view picture) {
+  if (value.Type() == VariantType::Object) return FormatNumber(value.Plain(), picture);
+  if (value.IsNull() && picture.empty()) return {};
   if (value.Type() == VariantType::Single) return FormatNumber(value.ToSingle(), picture);
   return FormatNumber(value.ToDouble(), picture);
 }

@@ -20,8 +20,9 @@ TACTIX_EXPORT const NumberLocale& CurrentNumberLocale();
 TACTIX_EXPORT void SetNumberLocale(NumberLocale locale);
 
 /// A number as text with a sign position: a blank before zero and positive numbers, "-" before negative ones. The
-/// digits are those of Variant::ToText, whatever the locale. Of a variant: flags are −1 and 0, Empty is 0, text is read
-/// as its number and fails with 13 where it is none, Null fails with 94; `out` then stays as it was.
+/// digits are those of Variant::ToText, whatever the locale, but without a zero before the point (" .25", "-.5"). Of a
+/// variant: a flag is "True" or "False" and Null is "Null", both without a sign position; Empty is 0, text is read as
+/// its number and fails with 13 where it is none, an object is its default property. A failure leaves `out` as it was.
 TACTIX_EXPORT std::string Str(std::int32_t value);
 TACTIX_EXPORT std::string Str(float value);
 TACTIX_EXPORT std::string Str(double value);
@@ -44,7 +45,8 @@ TACTIX_EXPORT void AppendStr(std::string& out, const Variant& value);
 ///
 /// Anything else prints itself. Digits for which the picture has no place are printed at its first one. A "-" goes
 /// before everything, unless the value has been rounded to zero. A picture without places prints no number; an empty
-/// picture prints the number as Variant::ToText does. Infinities and NaN fail with 5; variants convert as in Str.
+/// picture prints the number as Variant::ToText does. Infinities and NaN fail with 5. Variants convert as in
+/// Variant::ToDouble, except that Null with an empty picture is the empty text.
 TACTIX_EXPORT std::string FormatNumber(std::int32_t value, std::string_view picture);
 TACTIX_EXPORT std::string FormatNumber(float value, std::string_view picture);
 TACTIX_EXPORT std::string FormatNumber(double value, std::string_view picture);

@@ -9,7 +9,9 @@
 
 namespace tactix {
 
-/// Where a control's container keeps the control's saved properties. Any of the three may fail with an Error.
+/// Where a control's container keeps the control's saved properties. Any of the three may fail with an Error, throw
+/// something else, call back into the control, and destroy the control, its window and the bag: a control that is gone
+/// asks its bag for nothing more.
 class TACTIX_EXPORT PropertyBag {
  public:
   virtual ~PropertyBag();

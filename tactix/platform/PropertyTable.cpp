@@ -28,12 +28,12 @@ PropertyTable::Getter PropertyTable::Always(Variant value) {
   return [value = std::move(value)](Control&) { return value; };
 }
 
-PropertyTable& PropertyTable::OnFailedRead(OnFailure onFailure) {
+PropertyTable& PropertyTable::FailedReads(OnFailedRead onFailure) {
   onFailedRead_ = onFailure;
   return *this;
 }
 
-PropertyTable& PropertyTable::OnFailedWrite(OnFailure onFailure) {
+PropertyTable& PropertyTable::FailedWrites(OnFailure onFailure) {
   onFailedWrite_ = onFailure;
   return *this;
 }
@@ -45,11 +45,11 @@ void PropertyTable::Restore(Control& control, PropertyBag& bag) const {
     const Variant defaultValue = row.defaultValue(control);
     if (!self) return;
     try {
-      const Variant value = bag.Read(row.name, defaultValue);
+      const Variant value = bag.Read(row.name, defaultValue).Plain();
       if (self) row.restore(control, value);
     } catch (const Error&) {
-      if (onFailedRead_ == OnFailure::Report) throw;
-      if (self && onFailedRead_ == OnFailure::TakeTheDefault) row.restore(control, defaultValue);
+      if (onFailedRead_ == OnFailedRead::Report) throw;
+      if (self && onFailedRead_ == OnFailedRead::TakeTheDefault) row.restore(control, defaultValue);
     }
     if (!self) return;
   }
@@ -59,7 +59,7 @@ void PropertyTable::Save(Control& control, PropertyBag& bag) const {
   const Weak<Control> self(control);
   for (const SavedRow& row : saved_) {
     if (!row.value) continue;
-    try {
+    Run(onFailedWrite_, [&] {
       const Variant value = row.value(control);
       if (!self) return;
       if (row.always) {
@@ -67,9 +67,7 @@ void PropertyTable::Save(Control& control, PropertyBag& bag) const {
       } else {
         bag.Write(row.name, value, row.defaultValue(control));
       }
-    } catch (const Error&) {
-      if (onFailedWrite_ == OnFailure::Report) throw;
-    }
+    });
     if (!self) return;
   }
 }

@@ -9,12 +9,13 @@
 #include "tactix/platform/Control.h"
 #include "tactix/platform/Export.h"
 #include "tactix/platform/PropertyRows.h"
+#include "tactix/platform/Tolerance.h"
 
 namespace tactix {
 
-/// What happens when a saved property cannot be read or written. PassOver goes on with the next one; Report stops, and
-/// the error reaches the container; TakeTheDefault (for reading) sets the property to its default.
-enum class OnFailure { PassOver, Report, TakeTheDefault };
+/// What happens when a saved property cannot be read. PassOver goes on with the next one; Report stops, and the error
+/// reaches the container; TakeTheDefault sets the property to its default.
+enum class OnFailedRead { PassOver, Report, TakeTheDefault };
 
 /// Whether a property is both saved and restored, or only one of the two.
 enum class SavedWays { BothWays, SavedOnly, RestoredOnly };
@@ -55,8 +56,9 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
   /// A default that is the same for all controls of the class.
   static Getter Always(Variant value);
 
-  PropertyTable& OnFailedRead(OnFailure onFailure);
-  PropertyTable& OnFailedWrite(OnFailure onFailure);
+  /// PassOver by default, both.
+  PropertyTable& FailedReads(OnFailedRead onFailure);
+  PropertyTable& FailedWrites(OnFailure onFailure);
 
   /// In the order in which they are saved and restored.
   const std::vector<SavedRow>& SavedRows() const { return saved_; }
@@ -67,7 +69,7 @@ class TACTIX_EXPORT PropertyTable : public PropertyRows<PropertyTable, Control> 
 
  private:
   std::vector<SavedRow> saved_;
-  OnFailure onFailedRead_ = OnFailure::PassOver;
+  OnFailedRead onFailedRead_ = OnFailedRead::PassOver;
   OnFailure onFailedWrite_ = OnFailure::PassOver;
 };
 

@@ -20,6 +20,9 @@ class Widget;
 
 /// What a control asks of the container it sits on. A front end implements it; HeadlessSite does so without a toolkit.
 /// A site outlives the controls on it, except where a handler destroys both.
+///
+/// Notices, waits, pop-ups, beeps and moves of the focus may run any code of the host's, which may fail, call back into
+/// the control, or destroy it and the site. The other operations run none, and do not fail.
 class TACTIX_EXPORT Site : public Trackable {
  public:
   virtual ~Site() = default;

@@ -13,6 +13,18 @@ void IgnoringErrors(Step&& step) {
   }
 }
 
+/// What becomes of a step's error: it is ignored, or it reaches the caller.
+enum class OnFailure { PassOver, Report };
+
+template <class Step>
+void Run(OnFailure onFailure, Step&& step) {
+  if (onFailure == OnFailure::PassOver) {
+    IgnoringErrors(step);
+  } else {
+    step();
+  }
+}
+
 /// Runs one statement and ignores the error "object not set" (91); every other error reaches the caller. Wrap each
 /// statement of a routine that must go on after 91, not the routine as a whole.
 template <class Statement>

@@ -12,6 +12,10 @@ namespace tactix {
 
 namespace {
 
+/// How many objects a conversion goes through, each the default property of the one before, until it gives up: an
+/// object may be its own default property.
+constexpr int LongestWay = 16;
+
 bool IsNumber(VariantType type) { return type >= VariantType::Integer && type <= VariantType::Double; }
 
 double RoundHalfToEven(double value) {
@@ -93,6 +97,8 @@ double Variant::ToDouble() const {
       return *std::get_if<double>(&value_);
     case VariantType::Text:
       return ParseNumber(*std::get_if<std::string>(&value_));
+    case VariantType::Object:
+      return Plain().ToDouble();
     default:
       FailToConvert();
   }
@@ -101,9 +107,10 @@ double Variant::ToDouble() const {
 bool Variant::ToBoolean() const {
   if (const auto* flag = std::get_if<bool>(&value_)) return *flag;
   if (const auto* text = std::get_if<std::string>(&value_)) {
-    if (SameName(*text, "True")) return true;
-    if (SameName(*text, "False")) return false;
+    if (SameName(*text, "True") || *text == "#TRUE#") return true;
+    if (SameName(*text, "False") || *text == "#FALSE#") return false;
   }
+  if (Type() == VariantType::Object) return Plain().ToBoolean();
   return ToDouble() != 0;
 }
 
@@ -122,13 +129,16 @@ std::string Variant::ToText() const {
       text = std::to_string(*std::get_if<std::int32_t>(&value_));
       break;
     case VariantType::Single:
-      AppendShortest(text, *std::get_if<float>(&value_));
+      AppendNumber(text, *std::get_if<float>(&value_));
       break;
     case VariantType::Double:
-      AppendShortest(text, *std::get_if<double>(&value_));
+      AppendNumber(text, *std::get_if<double>(&value_));
       break;
     case VariantType::Text:
       text = *std::get_if<std::string>(&value_);
+      break;
+    case VariantType::Object:
+      text = Plain().ToText();
       break;
     default:
       FailToConvert();
@@ -146,7 +156,26 @@ const Font& Variant::ToFont() const {
   throw Error(Error::TypeMismatch);
 }
 
-bool Variant::CountsAsTrue() const { return !IsEmpty() && !IsNull() && ToBoolean(); }
+bool Variant::CountsAsTrue() const {
+  if (Type() == VariantType::Object) return Plain().CountsAsTrue();
+  return !IsEmpty() && !IsNull() && ToBoolean();
+}
+
+Variant Variant::Plain() const {
+  Variant value = *this;
+  for (int objects = 0; value.Type() == VariantType::Object; ++objects) {
+    const ObjectRef object = *std::get_if<ObjectRef>(&value.value_);
+    if (!object) throw Error(Error::ObjectNotSet);
+    if (objects == LongestWay) throw Error(Error::TypeMismatch);
+    try {
+      value = object->Get(DefaultPropertyName);
+    } catch (const Error& error) {
+      if (error.Code() != Error::NoSuchMember) throw;
+      throw Error(Error::TypeMismatch);
+    }
+  }
+  return value;
+}
 
 bool Variant::Equals(const Variant& other) const {
   if (IsNumber(Type()) && IsNumber(other.Type())) return ToDouble() == other.ToDouble();
@@ -157,6 +186,10 @@ void Variant::FailToConvert() const { throw Error(IsNull() ? Error::InvalidUseOf
 
 Variant Add(const Variant& a, const Variant& b) {
   if (a.IsNull() || b.IsNull()) return Variant::Null();
+  if (a.Type() == VariantType::Object || b.Type() == VariantType::Object) {
+    const Variant first = a.Plain();
+    return Add(first, b.Plain());
+  }
   const VariantType typeOfA = TermType(a);
   const VariantType typeOfB = TermType(b);
   const VariantType wider = std::max(typeOfA, typeOfB);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -20,7 +21,9 @@ enum class VariantType { Empty, Null, Boolean, Integer, Long, Single, Double, Te
 /// Empty by default.
 ///
 /// The conversions leave the value as it is. Null fails with 94 in all of them but ToObject, text that is no number
-/// with 13, fonts and objects with 13.
+/// and fonts with 13. An object converts as its default property does: they ask it, which may run code of the host's,
+/// and keep it until it has answered. A null reference then fails with 91, an object without a default property with
+/// 13, and so do objects that only lead on to further objects.
 class TACTIX_EXPORT Variant {
  public:
   Variant() = default;
@@ -30,11 +33,14 @@ class TACTIX_EXPORT Variant {
   Variant(std::int32_t value) : value_(value) {}
   Variant(float value) : value_(value) {}
   Variant(double value) : value_(value) {}
-  Variant(const char* text) : value_(std::in_place_type<std::string>, text) {}
+  /// A null pointer is the empty text.
+  Variant(const char* text) : value_(std::in_place_type<std::string>, text ? text : "") {}
   Variant(std::string_view text) : value_(std::in_place_type<std::string>, text) {}
   Variant(std::string text) : value_(std::move(text)) {}
   Variant(Font font) : value_(std::move(font)) {}
   Variant(ObjectRef object) : value_(std::move(object)) {}
+  /// The null reference, and no text.
+  Variant(std::nullptr_t) : value_(std::in_place_type<ObjectRef>) {}
   template <std::derived_from<Object> T>
   Variant(std::shared_ptr<T> object) : value_(std::in_place_type<ObjectRef>, std::move(object)) {}
 
@@ -53,10 +59,13 @@ class TACTIX_EXPORT Variant {
   /// Text is a number with sign, decimals behind a "." and exponent, or a 32-bit pattern as "&H80000005"; blanks around
   /// it do not count. Text beyond a double's range fails with 6.
   double ToDouble() const;
-  /// A number is true when non-zero. Text is "True" or "False" in any case, or a number. Empty is false.
+  /// A number is true when non-zero. Text is "True" or "False" in any case, "#TRUE#" or "#FALSE#", or a number. Empty
+  /// is false.
   bool ToBoolean() const;
-  /// Numbers in the shortest decimal text that reads back the same, always with a "." and with an exponent ("1E+20")
-  /// from 1E+15 and below 0.00001; zero has no sign. Flags are "True" and "False". Empty is "".
+  /// Numbers with at most 7 significant digits from a single and 15 from a double, rounded half away from zero and
+  /// without closing zeros: not every number reads back the same. Always with a "."; with an exponent ("1E+20") below
+  /// 0.00001 and where more digits than that stand before the point. Zero has no sign. Flags are "True" and "False".
+  /// Empty is "".
   std::string ToText() const;
   /// Fails with 424 where the value is no object reference. A null reference is returned as it is.
   ObjectRef ToObject() const;
@@ -65,6 +74,9 @@ class TACTIX_EXPORT Variant {
 
   /// How a condition takes it: Empty and Null are false, all else is ToBoolean().
   bool CountsAsTrue() const;
+
+  /// What the conversions go by: the value itself, or for an object the value of its default property. No object.
+  Variant Plain() const;
 
   /// Numbers are equal by value whatever their width; otherwise the types must be the same too. Texts compare with
   /// case, fonts by what they say, objects by identity.
@@ -85,7 +97,8 @@ class TACTIX_EXPORT Variant {
 
 /// The late-bound sum. It takes the wider type of the two and widens on where the sum does not fit (Integer, Long,
 /// Double; Single, Double), so 32767 + 10 is a Long. Flags and Empty add as Integer, text as Double, a Long and a
-/// Single make a Double. Null and anything is Null. A sum beyond a double's range fails with 6.
+/// Single make a Double. Objects add as their default properties, `a` read first. Null and anything is Null. A sum
+/// beyond a double's range fails with 6.
 TACTIX_EXPORT Variant Add(const Variant& a, const Variant& b);
 
 }  // namespace tactix

@@ -38,7 +38,10 @@ class Trackable {
   Trackable& operator=(const Trackable&) = delete;
 
  protected:
-  ~Trackable() {
+  ~Trackable() { MarkAsGone(); }
+  /// From now on weak pointers read null. For a derived class whose destructor runs foreign code before this class's
+  /// own.
+  void MarkAsGone() {
     while (first_) first_->Watch(nullptr);
   }
 

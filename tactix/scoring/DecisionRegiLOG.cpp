@@ -47,7 +47,7 @@ DecisionRegiLOG::DecisionRegiLOG(Site& site) : Control(site), innerSite_(site), 
   Arrange();
 }
 
-DecisionRegiLOG::~DecisionRegiLOG() = default;
+DecisionRegiLOG::~DecisionRegiLOG() { MarkAsGone(); }
 
 void DecisionRegiLOG::AfterAdvice(Coded<AfterAdvicePossibilities> verdict) {
   Children.DecisionRegister.AfterAdvice(verdict);

@@ -1,6 +1,7 @@
 #include "tactix/scoring/DecisionRegister.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -69,7 +70,7 @@ constexpr CountLine CountLines[] = {
 
 DecisionRegister::DecisionRegister(Site& site) : Control(site) { BuildWidgets(); }
 
-DecisionRegister::~DecisionRegister() = default;
+DecisionRegister::~DecisionRegister() { MarkAsGone(); }
 
 void DecisionRegister::BuildWidgets() {
   Extender().DesignSize(DesignWidth, StandardHeight);
@@ -152,12 +153,17 @@ void DecisionRegister::SetupStatisticsBox(bool breakDecisions) {
   Children.lblBreakDecisions.Visible(breakDecisions);
 }
 
+void DecisionRegister::HeightInTwips(float height) {
+  // Half to even.
+  Extender().Height(std::nearbyint(height / Extender().TwipsPerUnit()));
+}
+
 void DecisionRegister::FitTheRegisterToItsType() {
   if (typeOfDecisionRegister_ == DecisionRegisterType::StandardDecisionRegister) {
-    Extender().Height(StandardHeight);
+    HeightInTwips(StandardHeight);
   } else if (typeOfDecisionRegister_ == DecisionRegisterType::AfterAdviceDecisionRegister) {
     const Weak<DecisionRegister> self(this);
-    Extender().Height(AfterAdviceHeight);
+    HeightInTwips(AfterAdviceHeight);
     if (self) AfterAdvice(AfterAdvicePossibilities::afterNoAdvice);
   }
 }

@@ -30,7 +30,8 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   void NumberOfBreakDecisions(std::int16_t count) { numberOfBreakDecisions_ = count; }
 
   /// StandardDecisionRegister by default, and again whenever saved properties are read. Decides the register's height,
-  /// but only when it is next displayed.
+  /// but only when it is next displayed: 1420 twips, or 1800 after advice; in a container that counts in pixels, the
+  /// nearest whole number of pixels.
   Coded<DecisionRegisterType> TypeOfDecisionRegister() const { return typeOfDecisionRegister_; }
   void TypeOfDecisionRegister(Coded<DecisionRegisterType> type) { typeOfDecisionRegister_ = type; }
 
@@ -71,6 +72,7 @@ class TACTIX_EXPORT DecisionRegister : public Control {
   void BuildWidgets();
   void ShowTheCounts();
   void FitTheRegisterToItsType();
+  void HeightInTwips(float height);
 
   std::int16_t numberOfDecisions_ = 0;
   std::int16_t numberOfCorrectDecisions_ = 0;

@@ -20,12 +20,14 @@ bool HasSecondTotal(const Variant& softTotal) {
 }  // namespace
 
 Variant BlockReader::Value(BlockField field) const {
+  if (IsOver()) return {};
   if (block_) return block_->Field(field);
   if (!object_) throw Error(Error::ObjectNotSet);
   return object_->Get(NameOf(field));
 }
 
 void BlockReader::AppendText(BlockField field, std::string& out) const {
+  if (IsOver()) return;
   if (block_ && field == BlockField::PlayerName) {
     out += block_->PlayerName();
   } else if (block_ && field == BlockField::MidCardsAre) {
@@ -42,14 +44,17 @@ void DecodeBlock(const BlockReader& from, DecisionBlock& into) {
   }
   for (std::size_t i = 0; i < BlockFieldNames.size(); ++i) {
     const auto field = static_cast<BlockField>(i);
-    into.Field(field, from.Value(field));
+    const Variant value = from.Value(field);
+    if (from.IsOver()) return;
+    into.Field(field, value);
   }
 }
 
 void AppendDecisionPrompt(const BlockReader& block, std::string& out) {
-  const Variant hardTotal = block.Value(BlockField::HardTotal);
+  // An object's default property is asked once: both totals come of the same answer.
+  const Variant hardTotal = block.Value(BlockField::HardTotal).Plain();
   std::string total = Str(hardTotal);
-  if (HasSecondTotal(block.Value(BlockField::SoftTotal))) {
+  if (HasSecondTotal(block.Value(BlockField::SoftTotal).Plain())) {
     total += " OR ";
     AppendStr(total, Add(hardTotal, AceCountedHigh));
   }

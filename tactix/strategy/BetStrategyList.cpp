@@ -21,7 +21,7 @@ constexpr StrategyListRules Rules = {
 
 BetStrategyList::BetStrategyList(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
 
-BetStrategyList::~BetStrategyList() = default;
+BetStrategyList::~BetStrategyList() { MarkAsGone(); }
 
 void BetStrategyList::InputBettingStrategyDescriptions() {
   try {

@@ -20,7 +20,6 @@ constexpr StrategyListRules Rules = {
     .fontName = {},
     .highestReportedRow = CountStrategyList::HighestReportedRow,
     .failedResize = OnFailure::Report,
-    .boxSize = BoxSize::Width,
     .rowWidth = RowWidth::SixteenBits,
 };
 
@@ -59,12 +58,6 @@ constexpr auto DefaultSystem = static_cast<std::int16_t>(CountStrategyPossibilit
 /// The object without members that the catalogue is handed at each fill.
 class CountStrategyStore final : public Object {};
 
-std::string Describe(std::int16_t system) {
-  std::string text;
-  StrategyListData::Catalogue()->DescribeStrategy(system, text);
-  return text;
-}
-
 }  // namespace
 
 CountStrategyList::CountStrategyList(Site& site) : StrategyListControl(site, Rules) {
@@ -72,7 +65,13 @@ CountStrategyList::CountStrategyList(Site& site) : StrategyListControl(site, Rul
   for (const std::string_view name : DesignNames) Children.StrategyListBox.AddItem(name);
 }
 
-CountStrategyList::~CountStrategyList() = default;
+CountStrategyList::~CountStrategyList() { MarkAsGone(); }
+
+std::string CountStrategyList::Describe(std::int16_t system) const {
+  std::string text;
+  if (const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue()) catalogue->DescribeStrategy(system, text);
+  return text;
+}
 
 bool CountStrategyList::Select(std::int32_t system) {
   const Weak<CountStrategyList> self(this);
@@ -108,7 +107,9 @@ void CountStrategyList::InputCountStrategyDescriptions() {
 void CountStrategyList::FillBegins() {
   description_.clear();
   store_ = std::make_shared<CountStrategyStore>();
-  PassingOverObjectNotSet([store = store_] { StrategyListData::Catalogue()->AttachCountStrategyStore(store); });
+  PassingOverObjectNotSet([this, store = store_] {
+    if (const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue()) catalogue->AttachCountStrategyStore(store);
+  });
 }
 
 void CountStrategyList::FillRow(std::int16_t system) {
@@ -141,7 +142,7 @@ const PropertyTable& CountStrategyList::Properties() const {
   using Self = CountStrategyList;
   static const PropertyTable table = [] {
     PropertyTable rows;
-    rows.OnFailedWrite(OnFailure::Report)
+    rows.FailedWrites(OnFailure::Report)
         .Property(CountStrategyName, &Self::CountStrategy, &Self::CountStrategy)
         .Saved(DefaultSystem,
                {.value = PropertyTable::GetBy([](Self& self) { return self.ListIndex(); }),

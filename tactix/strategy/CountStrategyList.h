@@ -73,6 +73,8 @@ class TACTIX_EXPORT CountStrategyList : public StrategyListControl {
   static constexpr std::int32_t Lowest = static_cast<std::int32_t>(CountStrategyPossibilities::LowestCardCountIndex);
   static constexpr std::int32_t Highest = static_cast<std::int32_t>(CountStrategyPossibilities::HighestCardCountIndex);
 
+  /// The catalogue's description of a system; empty if the call has destroyed the list.
+  std::string Describe(std::int16_t system) const;
   /// Selects the system's row; false where there is no such system.
   bool Select(std::int32_t system);
 

@@ -1,7 +1,6 @@
 #include "tactix/strategy/NumberedStrategyList.h"
 
 #include "tactix/strategy/RowTexts.h"
-#include "tactix/strategy/StrategyListData.h"
 
 namespace tactix {
 
@@ -21,17 +20,18 @@ void NumberedStrategyList::FillUpTo(std::int16_t highest) { Fill(EmptySeat, high
 
 // Both take the number by value, because a catalogue may write to the number that it is asked for.
 
-std::string NumberedStrategyList::DescribePlaying(std::int16_t strategy) {
-  return StrategyListData::Catalogue()->DescribeStrategy(strategy);
+std::string NumberedStrategyList::DescribePlaying(std::int16_t strategy) const {
+  const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue();
+  return catalogue ? catalogue->DescribeStrategy(strategy) : std::string();
 }
 
-std::string NumberedStrategyList::DescribeBetting(std::int16_t strategy) {
-  return StrategyListData::Catalogue()->DescribeBettingStrategy(strategy);
+std::string NumberedStrategyList::DescribeBetting(std::int16_t strategy) const {
+  const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue();
+  return catalogue ? catalogue->DescribeBettingStrategy(strategy) : std::string();
 }
 
-PropertyTable NumberedStrategyList::NumberedProperties(OnFailure onFailure) {
+PropertyTable NumberedStrategyList::NumberedProperties() {
   PropertyTable table;
-  table.OnFailedRead(onFailure).OnFailedWrite(onFailure);
   SavedRow::Enabled(table);
   SavedRow::BackColor(table);
   SavedRow::ForeColor(table);
@@ -45,7 +45,7 @@ PropertyTable NumberedStrategyList::NumberedProperties(OnFailure onFailure) {
 }
 
 const PropertyTable& NumberedStrategyList::Properties() const {
-  static const PropertyTable table = NumberedProperties(OnFailure::PassOver);
+  static const PropertyTable table = NumberedProperties();
   return table;
 }
 

@@ -40,10 +40,11 @@ class TACTIX_EXPORT NumberedStrategyList : public StrategyListControl {
   void Report(std::int32_t row) override;
   /// Fills the rows of the empty seat and of all strategies up to the highest.
   void FillUpTo(std::int16_t highest);
-  /// The properties; onFailure says what happens when a saved one cannot be read or written.
-  static PropertyTable NumberedProperties(OnFailure onFailure);
-  static std::string DescribePlaying(std::int16_t strategy);
-  static std::string DescribeBetting(std::int16_t strategy);
+  /// The properties of these lists. A saved one that cannot be read or written is passed over.
+  static PropertyTable NumberedProperties();
+  /// The catalogue's description; empty if the call has destroyed the list.
+  std::string DescribePlaying(std::int16_t strategy) const;
+  std::string DescribeBetting(std::int16_t strategy) const;
 };
 
 }  // namespace tactix

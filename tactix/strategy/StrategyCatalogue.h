@@ -23,6 +23,9 @@ static_assert(sizeof(StrategyRange) == 10 && std::is_trivially_copyable_v<Strate
 /// The application's strategies, described in texts that the lists take apart. The host supplies it, or
 /// companion::Install does. Playing and betting strategies are numbered from -1 (the empty seat) up; count systems have
 /// a table and a numbering of their own.
+///
+/// Any call may fail with an Error, throw something else, call back into the list that asks, destroy the list or its
+/// window, and put another catalogue in this one's place; the list keeps the catalogue until its answer is there.
 class TACTIX_EXPORT StrategyCatalogue {
  public:
   virtual ~StrategyCatalogue() = default;

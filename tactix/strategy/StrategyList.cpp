@@ -37,7 +37,7 @@ class TwoDigits {
 
 StrategyList::StrategyList(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
 
-StrategyList::~StrategyList() = default;
+StrategyList::~StrategyList() { MarkAsGone(); }
 
 void StrategyList::InputPlayingStrategyDescriptions() { FillUpTo(Range().HighestPlayingStrategy); }
 

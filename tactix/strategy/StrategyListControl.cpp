@@ -14,15 +14,6 @@ constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 390;
 constexpr float SizeOfFont = 8.25F;
 
-template <class Step>
-void Run(OnFailure onFailure, Step&& step) {
-  if (onFailure == OnFailure::PassOver) {
-    IgnoringErrors(step);
-  } else {
-    step();
-  }
-}
-
 }  // namespace
 
 StrategyListControl::StrategyListControl(Site& site, const StrategyListRules& rules) : Control(site), rules_(rules) {}
@@ -59,8 +50,16 @@ void StrategyListControl::Visible(bool visible) { Box().Visible(visible); }
 
 void StrategyListControl::LoadTheStrategyRange() {
   const Weak<StrategyListControl> self(this);
-  const StrategyRange range = StrategyListData::Catalogue()->GetStrategyRange();
+  const std::shared_ptr<StrategyCatalogue> catalogue = Catalogue();
+  if (!self) return;
+  const StrategyRange range = catalogue->GetStrategyRange();
   if (self) range_ = range;
+}
+
+std::shared_ptr<StrategyCatalogue> StrategyListControl::Catalogue() const {
+  const Weak<const StrategyListControl> self(this);
+  std::shared_ptr<StrategyCatalogue> catalogue = StrategyListData::Catalogue();
+  return self ? catalogue : nullptr;
 }
 
 void StrategyListControl::LoadStrategiesFromIniFile() {
@@ -107,25 +106,21 @@ void StrategyListControl::ReportTheStrategySelection() {
 }
 
 void StrategyListControl::GoBackToTheLastGoodRow() {
-  const Weak<StrategyListControl> self(this);
-  // Going back does not count as a selection: it is not reported, and not refused either where that row is unusable,
-  // too.
+  struct Refusing {
+    Weak<StrategyListControl> list;
+    ~Refusing() {
+      if (list) list->refusing_ = false;
+    }
+  };
+  // Going back does not count as a selection: it is not reported, nor refused where that row is unusable, too.
   refusing_ = true;
-  try {
-    Box().ListIndex(lastGoodListIndex_);
-  } catch (...) {
-    if (self) refusing_ = false;
-    throw;
-  }
-  if (self) refusing_ = false;
+  const Refusing untilTheEnd{Weak(this)};
+  Box().ListIndex(lastGoodListIndex_);
 }
 
 void StrategyListControl::Resized() {
-  Run(rules_.failedResize, [this] {
-    ListBox& box = Box();
-    const float height = rules_.boxSize == BoxSize::Width ? box.Height() : Extender().ScaleHeight();
-    box.Place(box.Left(), box.Top(), Extender().ScaleWidth(), height);
-  });
+  // The box keeps its height.
+  Run(rules_.failedResize, [this] { Box().Width(Extender().ScaleWidth()); });
 }
 
 void StrategyListControl::Terminated() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -92,6 +93,8 @@ class TACTIX_EXPORT StrategyListControl : public Control {
   /// Clears the box, fills the rows of the numbers first ... last, and sets the text. An error ends it; the rows added
   /// so far stay.
   void Fill(std::int32_t first, std::int32_t last);
+  /// The catalogue; null where making one has destroyed the list.
+  std::shared_ptr<StrategyCatalogue> Catalogue() const;
   const StrategyRange& Range() const { return range_; }
   /// The number being filled; after a fill, the last one visited.
   std::int16_t FilledNumber() const { return filledNumber_; }

@@ -61,18 +61,23 @@ std::shared_ptr<StrategyCatalogue> StrategyListData::Catalogue() {
   Shared& shared = TheShared();
   if (!shared.catalogue) {
     const CatalogueFactory create = shared.createCatalogue;  // a copy: it may set another factory while it runs
-    if (create) shared.catalogue = create();
-    if (!shared.catalogue) throw Error(Error::ObjectNotSet);
+    std::shared_ptr<StrategyCatalogue> made = create ? create() : nullptr;
+    if (!made) throw Error(Error::ObjectNotSet);
+    // The factory may have set a catalogue itself. That one is released last, which may run host code.
+    const std::shared_ptr<StrategyCatalogue> before = std::exchange(shared.catalogue, made);
+    return made;
   }
   return shared.catalogue;
 }
 
+// In both, the old value is destroyed after the new one is in place, because that may run host code.
+
 void StrategyListData::UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue) {
-  TheShared().catalogue = std::move(catalogue);
+  std::swap(TheShared().catalogue, catalogue);
 }
 
 void StrategyListData::CreateCatalogueWith(CatalogueFactory factory) {
-  TheShared().createCatalogue = std::move(factory);
+  std::swap(TheShared().createCatalogue, factory);
 }
 
 DescriptionBuffer& StrategyListData::Buffer() { return TheShared().buffer; }

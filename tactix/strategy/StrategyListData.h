@@ -33,7 +33,7 @@ class TACTIX_EXPORT StrategyListData {
 
   /// The strategy catalogue, made by the factory on first use and then kept for the life of the process. Fails with 91
   /// when there is none and the factory is empty or makes none. A call on it may set another one, so callers keep the
-  /// pointer during the call.
+  /// pointer during the call. The factory may do whatever a catalogue may do.
   static std::shared_ptr<StrategyCatalogue> Catalogue();
   /// Sets the catalogue; null makes the next use create one again.
   static void UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue);

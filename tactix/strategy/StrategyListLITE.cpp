@@ -19,7 +19,7 @@ constexpr StrategyListRules Rules = {
 
 StrategyListLITE::StrategyListLITE(Site& site) : NumberedStrategyList(site, Rules) { SetUpBox(); }
 
-StrategyListLITE::~StrategyListLITE() = default;
+StrategyListLITE::~StrategyListLITE() { MarkAsGone(); }
 
 void StrategyListLITE::InputPlayingStrategyDescriptions() {
   IgnoringErrors([this] { FillUpTo(Range().HighestPlayingStrategy); });
@@ -36,7 +36,8 @@ void StrategyListLITE::FillRow(std::int16_t strategy) {
 }
 
 const PropertyTable& StrategyListLITE::Properties() const {
-  static const PropertyTable table = NumberedProperties(OnFailure::Report);
+  static const PropertyTable table =
+      NumberedProperties().FailedReads(OnFailedRead::Report).FailedWrites(OnFailure::Report);
   return table;
 }
 

@@ -11,8 +11,6 @@ namespace tactix {
 /// Whether a list lets go of the host's collection as soon as it is terminated, or when it is destroyed.
 enum class AtTheEnd { ReleaseTheCollection, KeepTheCollection };
 
-enum class BoxSize { Width, WidthAndHeight };
-
 /// The width of the numbers with which ListIndex works out a row: in 16 bits 32767 + 1 overflows, which fails with 6.
 enum class RowWidth { SixteenBits, ThirtyTwoBits };
 
@@ -26,8 +24,6 @@ struct StrategyListRules {
   /// Rows past this one are shown, but never reported.
   std::int32_t highestReportedRow;
   OnFailure failedResize = OnFailure::PassOver;
-  /// What of the control's size the box takes.
-  BoxSize boxSize = BoxSize::WidthAndHeight;
   RowWidth rowWidth = RowWidth::ThirtyTwoBits;
   AtTheEnd atTheEnd = AtTheEnd::KeepTheCollection;
 };

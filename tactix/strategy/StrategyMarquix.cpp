@@ -36,7 +36,7 @@ StrategyMarquix::StrategyMarquix(Site& site) : Control(site), innerSite_(site), 
       [this](std::int32_t& strategy) { Events.StrategySelectionChanged.Raise(strategy); });
 }
 
-StrategyMarquix::~StrategyMarquix() = default;
+StrategyMarquix::~StrategyMarquix() { MarkAsGone(); }
 
 void StrategyMarquix::Arrange() {
   // The mark's place at the banner's end is kept free while it is hidden, so that the banner's text does not move.
@@ -86,8 +86,8 @@ const PropertyTable& StrategyMarquix::Properties() const {
   const auto controlType = [](Self& self) { return self.ControlType(); };
   static const PropertyTable table =
       PropertyTable()
-          .OnFailedRead(OnFailure::Report)
-          .OnFailedWrite(OnFailure::Report)
+          .FailedReads(OnFailedRead::Report)
+          .FailedWrites(OnFailure::Report)
           .Property(CaptionName, &Self::Caption, &Self::Caption)
           .SavedWithDefault(PropertyTable::GetBy(caption),
                             {.restore = PropertyTable::SetBy(restoreCaption), .always = true})

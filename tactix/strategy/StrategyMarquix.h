@@ -17,6 +17,11 @@
 
 namespace tactix {
 
+/// A marquee's type compares with rows of either enumeration, as it can be set to them.
+constexpr bool operator==(Coded<TypeOfStrategyMarquixControl> type, TypeOfStrategyControl row) {
+  return type.Value() == static_cast<std::int32_t>(row);
+}
+
 /// A captioned strategy chooser: a banner over a compact list of playing strategies, with a mark that the host can set
 /// to show that this strategy is the one in use. Errors of the list reach the caller.
 class TACTIX_EXPORT StrategyMarquix : public Control {

@@ -165,7 +165,7 @@ TEST_F(StrategyDataPanelBlockTest, AFieldThatFailsEndsTheShowing) {
       {"ClumpType", 32768, Error::Overflow, "Get ClumpType"},
       {"ClumpType", -70000, Error::Overflow, "Get ClumpType"},
       {"CoreCardsDealt", "", Error::TypeMismatch, "Get CoreCardsDealt"},
-      {"TargetRating", ObjectRef(), Error::TypeMismatch, "Get TargetRating"},
+      {"TargetRating", nullptr, Error::ObjectNotSet, "Get TargetRating"},
       {"DealerBreakPercent", 1e300, Error::Overflow, "Get DealerBreakPercent"},
       {"DealerBreakPercent", Infinite, Error::InvalidProcedureCall, "Get DealerBreakPercent"},
       {"AdjustedCount", 1e9, Error::Overflow, "Get AdjustedCount"},
@@ -220,6 +220,22 @@ TEST_F(StrategyDataPanelBlockTest, AnyReadMayDestroyThePanel) {
       EXPECT_EQ(panel_, nullptr) << field;
       EXPECT_EQ(block->Log.back(), "Get " + std::string(field)) << "went on reading";
     }
+  }
+}
+
+TEST_F(StrategyDataPanelBlockTest, AFieldMayBeAnObjectAndDestroyThePanelWhenItIsAsked) {
+  for (const std::string_view field : DataFields) {
+    panel_ = std::make_unique<StrategyDataPanel>(site_);
+    const auto value = std::make_shared<PropertyObject>("", 3);
+    const auto block = FullDataBlock();
+    block->Set(std::string(field), value);
+    panel_->HereIsYourStrategyData(block);
+    EXPECT_EQ(block->Log.size(), std::size(DataFields)) << field;
+    block->Log.clear();
+    value->OnUse = [&](const std::string&) { panel_.reset(); };
+    panel_->HereIsYourStrategyData(block);
+    EXPECT_EQ(panel_, nullptr) << field;
+    EXPECT_EQ(block->Log.back(), "Get " + std::string(field)) << "went on reading";
   }
 }
 

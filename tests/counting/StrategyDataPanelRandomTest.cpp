@@ -72,12 +72,10 @@ Texts TextsOf(const StrategyDataPanel& panel) {
   return texts;
 }
 
+/// What the seven digits of a single say.
 double ReadBack(float value) {
   char text[32];
-  for (int digits = 1; digits < 10; ++digits) {
-    std::snprintf(text, sizeof text, "%.*g", digits, static_cast<double>(value));
-    if (std::strtof(text, nullptr) == value) break;
-  }
+  std::snprintf(text, sizeof text, "%.7g", static_cast<double>(value));
   return std::strtod(text, nullptr);
 }
 

@@ -187,6 +187,7 @@ TEST_F(StrategyDataPanelTest, DividesStrongByStiffHands) {
       {"tenths are what they say", 0.1F, 0.0115F, "0.12"},
       {"not what they are in binary", 10, 1.15F, "0.12"},
       {"more than ten", 1, 1234.5F, "1234.50"},
+      {"seven digits of a single", 1, 16777216.0F, "16777220.00"},
       {"the tiniest divisor still divides", Tiniest, Tiniest, "1.00"},
   };
   for (const StrengthRow& row : rows) {

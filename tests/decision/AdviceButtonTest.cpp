@@ -2,14 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tactix/platform/headless/HeadlessSite.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/FakeCatalogue.h"
+#include "tests/support/RowName.h"
 
 namespace tactix::tests {
 namespace {
@@ -177,6 +181,22 @@ TEST_F(AdviceButtonTest, BothElementsTakeTheControlsWidth) {
   }
 }
 
+TEST_F(AdviceButtonTest, TheOpenListStandsBelowTheButton) {
+  children_.StrategyListBox.AddItem("a");
+  site_.ScriptMenu([this](Menu&) { children_.mnuSelectStrategy.Choose(); });
+  children_.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});
+  const Extender& list = children_.StrategyListBox.Extender();
+  for (const auto& [height, listHeight] :
+       {std::pair(2000.0F, 390.0F), std::pair(840.0F, 390.0F), std::pair(300.0F, 150.0F)}) {
+    button_->Extender().Height(height);
+    EXPECT_EQ(list.Height(), listHeight);
+    EXPECT_EQ(list.Top() + list.Height(), height);
+    EXPECT_EQ(children_.cmdAdviceButton.Top() + children_.cmdAdviceButton.Height(), list.Top());
+  }
+  children_.StrategyListBox.Children.StrategyListBox.PickRow(0);
+  EXPECT_EQ(children_.cmdAdviceButton.Height(), 300) << "the closed list leaves all to the button";
+}
+
 class AdviceButtonListTest : public AdviceButtonTest {
  protected:
   AdviceButtonListTest() {
@@ -227,14 +247,118 @@ TEST_F(AdviceButtonListTest, WithoutACatalogueItOpensEmpty) {
   EXPECT_TRUE(site_.Errors().empty());
 }
 
-TEST_F(AdviceButtonListTest, AnotherErrorOfTheCatalogueReachesTheSite) {
+/// A call of the catalogue that fails while the list is filled, and the rows that it has by then.
+struct BrokenFillRow {
+  const char* name;
+  const char* call;
+  std::int32_t code;
+  Texts rows;
+};
+
+class AdviceButtonBrokenFillTest : public AdviceButtonListTest, public testing::WithParamInterface<BrokenFillRow> {
+ protected:
+  std::vector<std::int32_t> TakeErrors() {
+    std::vector<std::int32_t> codes;
+    for (const Error& error : site_.Errors()) codes.push_back(error.Code());
+    site_.ForgetRecords();
+    return codes;
+  }
+};
+
+TEST_P(AdviceButtonBrokenFillTest, TheListOpensAllTheSameAndIsFilledAtTheNextOpening) {
+  const auto& [name, call, code, rows] = GetParam();
+  const std::vector<std::int32_t> unhandled =
+      code == 91 ? std::vector<std::int32_t>{} : std::vector<std::int32_t>{code};
   const InstalledCatalogue catalogue;
   catalogue->Describe(2);
+  bool shownWhenRaised = false;
+  button_->Events.StrategyListBoxVisibilityChanged.Connect(
+      [&](bool) { shownWhenRaised = children_.StrategyListBox.Extender().Visible(); });
+  catalogue->OnCall = [&](const std::string& made) {
+    if (made == GetParam().call) throw Error(GetParam().code);
+  };
+  for (int opening = 1; opening <= 2; ++opening) {
+    shownWhenRaised = false;
+    SelectStrategy();
+    EXPECT_EQ(TakeErrors(), unhandled);
+    EXPECT_TRUE(children_.StrategyListBox.Extender().Visible());
+    EXPECT_TRUE(shownWhenRaised);
+    EXPECT_EQ(recorder_.Take(), Texts{"StrategyListBoxVisibilityChanged#4(true)"});
+    EXPECT_EQ(Rows(), rows) << "at opening " << opening;
+  }
+  catalogue->OnCall = nullptr;
+  SelectStrategy();
+  EXPECT_EQ(Rows(), (Texts{"Empty Seat", "Strategy 0", "Strategy 1", "Strategy 2"}));
+  const std::size_t asked = catalogue->Log.size();
+  SelectStrategy();
+  EXPECT_EQ(catalogue->Log.size(), asked) << "a whole fill is not made again";
+  EXPECT_EQ(TakeErrors(), std::vector<std::int32_t>{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AdviceButtonBrokenFillTest,
+                         testing::Values(BrokenFillRow{"Range", "Range", 4711, {}},
+                                         BrokenFillRow{"FirstRow", "Playing -1", 13, {}},
+                                         BrokenFillRow{"LaterRow", "Playing 1", 4711, {"Empty Seat", "Strategy 0"}},
+                                         BrokenFillRow{"NotSetAtTheRange", "Range", 91, {}},
+                                         BrokenFillRow{"NotSetLater", "Playing 1", 91, {"Empty Seat", "Strategy 0"}}),
+                         RowName());
+
+TEST_F(AdviceButtonListTest, AfterABrokenFillTheHostsRowsGiveWay) {
+  const InstalledCatalogue catalogue;
+  catalogue->Describe(0);
   catalogue->OnCall = [](const std::string&) { throw Error(4711); };
   SelectStrategy();
+  children_.StrategyListBox.AddItem("mine");
+  catalogue->OnCall = nullptr;
+  SelectStrategy();
+  EXPECT_EQ(Rows(), (Texts{"Empty Seat", "Strategy 0"}));
+}
+
+TEST_F(AdviceButtonListTest, WithoutACatalogueTheHostsRowsStay) {
+  SelectStrategy();
+  children_.StrategyListBox.AddItem("mine");
+  const InstalledCatalogue catalogue;
+  catalogue->Describe(0);
+  SelectStrategy();
+  EXPECT_EQ(Rows(), Texts{"mine"});
+}
+
+TEST_F(AdviceButtonListTest, WhatIsNoErrorIsReportedAsOneAndTheListOpens) {
+  const InstalledCatalogue catalogue;
+  catalogue->OnCall = [](const std::string&) { throw std::runtime_error("the file is locked"); };
+  SelectStrategy();
+  ASSERT_EQ(site_.Errors().size(), 1U);
+  EXPECT_EQ(site_.Errors()[0].Description(), "the file is locked");
+  EXPECT_EQ(recorder_.Take(), Texts{"StrategyListBoxVisibilityChanged#4(true)"});
+}
+
+TEST_F(AdviceButtonListTest, ACatalogueMayDestroyTheButtonAndFail) {
+  for (const std::int32_t code : {0, 91, 4711}) {
+    site_.ForgetRecords();
+    button_ = std::make_unique<AdviceButton>(site_);
+    bool opened = false;
+    button_->Events.StrategyListBoxVisibilityChanged.Connect([&](bool) { opened = true; });
+    const InstalledCatalogue catalogue;
+    catalogue->OnCall = [&](const std::string&) {
+      button_.reset();
+      if (code != 0) throw Error(code);
+    };
+    site_.ScriptMenu([this](Menu&) { button_->Children.mnuSelectStrategy.Choose(); });
+    button_->Children.cmdAdviceButton.MouseDown({RightButton, 0, 0, 0});
+    EXPECT_EQ(button_, nullptr);
+    EXPECT_FALSE(opened);
+    EXPECT_EQ(site_.Errors().size(), code == 4711 ? 1U : 0U) << code;
+  }
+}
+
+TEST_F(AdviceButtonListTest, AHandlerMayDestroyTheButtonWhoseFillBrokeOff) {
+  const InstalledCatalogue catalogue;
+  catalogue->OnCall = [](const std::string&) { throw Error(4711); };
+  button_->Events.StrategyListBoxVisibilityChanged.Connect([this](bool) { button_.reset(); });
+  SelectStrategy();
+  EXPECT_EQ(button_, nullptr);
   ASSERT_EQ(site_.Errors().size(), 1U);
   EXPECT_EQ(site_.Errors()[0].Code(), 4711);
-  EXPECT_FALSE(children_.StrategyListBox.Extender().Visible());
 }
 
 TEST_F(AdviceButtonTest, KeepsTheListsNoticesToItself) {

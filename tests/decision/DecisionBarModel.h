@@ -110,11 +110,11 @@ class DecisionBarModel {
   void SetUp(ForeignBlock& block) {
     SetUpPlays(block);
     advice = block.Get("StrategyAdvice").ToInteger();
-    const Variant hard = block.Get("HardTotal");
+    const Variant hard = block.Get("HardTotal").Plain();
     std::string totals = WithSignPlace(hard);
     const Variant soft = block.Get("SoftTotal");
     if (soft.CountsAsTrue() && soft.ToDouble() < 11) {
-      totals += " OR " + WithSignPlace(hard.ToDouble() + 10);
+      totals += " OR " + WithSignPlace(hard.IsNull() ? hard : hard.ToDouble() + 10);
     }
     Expect("HereIsThePlayersPromptMessage#8(" + block.Get("PlayerName").ToText() + " - You have " + totals +
            "  - Make your Selection)");
@@ -129,8 +129,12 @@ class DecisionBarModel {
     return flags;
   }
   static std::string WithSignPlace(const Variant& number) {
+    if (number.IsNull()) return "Null";
+    if (number.Type() == VariantType::Boolean) return number.ToText();
     const double value = number.ToDouble();
-    return (value < 0 ? "" : " ") + Variant(value).ToText();
+    std::string text = (value < 0 ? "" : " ") + Variant(value).ToText();
+    if (value != 0 && text[1] == '0') text.erase(1, 1);
+    return text;
   }
 };
 

@@ -238,6 +238,12 @@ std::vector<typename RandomHost<Bar>::Operation> BarOperations() {
          const std::size_t button = random.Below(6);
          Flash(HostOf(host), button, [&] { bar.FlashObject(ButtonAt(StripOf(bar), button).Handle()); });
        }},
+      {"change the mode", 2,
+       [](Host& host, Bar& bar, SequenceRandom& random) {
+         host.Site().UserMode(!random.OneIn(4));
+         HostOf(host).model.stripShown = host.Site().UserMode();
+         bar.AmbientChanged();
+       }},
       {"wait", 1,
        [](Host& host, Bar& bar, SequenceRandom& random) {
          ++HostOf(host).turns;
@@ -271,6 +277,7 @@ template <class Bar>
 void PrepareBar(RandomHost<Bar>& anyHost, Bar& bar) {
   BarHost<Bar>& host = HostOf(anyHost);
   host.model = Model();
+  host.model.stripShown = host.Site().UserMode();
   ++host.controls;
   host.recorder.Forget();
   host.recorder.Watch(bar.Events.All());

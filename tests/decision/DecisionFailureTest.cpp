@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tactix/decision/Decision.h"
@@ -97,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ValueRow{"StrategyAdviceTooLarge", BlockField::StrategyAdvice, 40000, 6},
                     ValueRow{"PlayerNameNull", BlockField::PlayerName, Variant::Null(), 94},
                     ValueRow{"PlayerNameFont", BlockField::PlayerName, Font{}, 13},
-                    ValueRow{"MidCardsObject", BlockField::MidCardsAre, ObjectRef(), 13},
+                    ValueRow{"MidCardsObject", BlockField::MidCardsAre, nullptr, 91},
                     ValueRow{"RestrictionsWord", BlockField::ManualPlayerRestrictions, "maybe", 13},
                     ValueRow{"RestrictionsNull", BlockField::ManualPlayerRestrictions, Variant::Null(), 94},
                     ValueRow{"LogNull", BlockField::PlayingLogEnabled, Variant::Null(), 94},
@@ -188,7 +189,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, DecisionSetupValueTest,
                                          SetupValueRow{"LogWord", BlockField::PlayingLogEnabled, "x", 13},
                                          SetupValueRow{"SplitNull", BlockField::SplitIsValid, Variant::Null(), 94},
                                          SetupValueRow{"HardTotalText", BlockField::HardTotal, "x", 13},
-                                         SetupValueRow{"HardTotalNull", BlockField::HardTotal, Variant::Null(), 94},
+                                         SetupValueRow{"HardTotalNullObject", BlockField::HardTotal, nullptr, 91},
                                          SetupValueRow{"SoftTotalText", BlockField::SoftTotal, "x", 13},
                                          SetupValueRow{"NameNull", BlockField::PlayerName, Variant::Null(), 94},
                                          SetupValueRow{"MidCardsNull", BlockField::MidCardsAre, Variant::Null(), 94}),
@@ -245,6 +246,43 @@ TEST_F(DecisionFailureTest, NeedsAnObject) {
     }
     EXPECT_EQ(ErrorCodeOf([&] { operation(*box_, Variant(ObjectRef())); }), 91);
   }
+}
+
+TEST_F(DecisionFailureTest, ANullPointerIsTheNullObject) {
+  EXPECT_EQ(ErrorCodeOf([&] { box_->SetupTheDecisionBox(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { box_->SetupDecisionBox(nullptr, nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { box_->SetupPlayButtons(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { box_->HereIsTheDCB(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { box_->DecodeThisDCB(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { box_->TheKelvoEditionIs(nullptr); }), 91);
+}
+
+TEST_F(DecisionFailureTest, TheEditionIsKeptBeforeTheBlockIsRead) {
+  const auto first = std::make_shared<PropertyObject>();
+  box_->SetupDecisionBox(DecisionBlock(), first);
+  for (const auto& [block, code] : {std::pair<Variant, int>{5, 424}, {Variant::Null(), 424}, {nullptr, 91}}) {
+    const auto edition = std::make_shared<PropertyObject>();
+    edition->OnCall = [](std::string_view, std::span<Variant> arguments) { arguments[0] = 9; };
+    EXPECT_EQ(ErrorCodeOf([&] { box_->SetupDecisionBox(block, edition); }), code);
+    std::int16_t flag = 1;
+    box_->Show(flag);
+    EXPECT_EQ(flag, 9) << "shown by the new edition";
+  }
+  EXPECT_EQ(first.use_count(), 1);
+}
+
+TEST_F(DecisionFailureTest, TheEditionThatGoesMayTakeTheBoxAndTheBlockWithIt) {
+  auto block = std::make_shared<ForeignBlock>(FullBlock());
+  Variant handedOver = block;
+  const auto takeAll = [&](PropertyObject*) {
+    box_.reset();
+    handedOver = {};
+    block.reset();
+  };
+  const auto self = std::make_unique<PropertyObject>();
+  box_->SetupDecisionBox(DecisionBlock(), ObjectRef(self.get(), takeAll));
+  box_->SetupDecisionBox(handedOver, nullptr);
+  EXPECT_EQ(box_, nullptr);
 }
 
 // Blocks that act.

@@ -152,6 +152,9 @@ TEST_F(DecisionTest, TheToolTipMessageNamesTheStrategyInUpperCase) {
   box_->ToolTipMessage("Basic play, no. 3z");
   EXPECT_EQ(children_.AdviceButton.Extender().ToolTipText(),
             "Click this to see Kelvo' recommendation based on: BASIC PLAY, NO. 3Z");
+  box_->ToolTipMessage("Jürgens große Wette, ход дилера, στοίχημα ♠");
+  EXPECT_EQ(children_.AdviceButton.Extender().ToolTipText(),
+            "Click this to see Kelvo' recommendation based on: JÜRGENS GROßE WETTE, ХОД ДИЛЕРА, ΣΤΟΊΧΗΜΑ ♠");
   EXPECT_EQ(box_->ToolTip(), "");
 }
 

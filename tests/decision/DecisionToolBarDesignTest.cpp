@@ -129,6 +129,30 @@ TYPED_TEST(DecisionToolBarDesignTest, TheDesignerSeesTheNameAndThePlayerTheToolb
   }
 }
 
+TYPED_TEST(DecisionToolBarDesignTest, ADesignerSeesTheNameOfANewOneAtOnce) {
+  for (const bool running : {false, true}) {
+    this->site_.UserMode(running);
+    TypeParam bar(this->site_);
+    bar.Extender().Place(300, 400, 9000, 900);
+    bar.InitProperties();
+    EXPECT_EQ(bar.Children.DecisionToolBar.Visible(), running);
+    EXPECT_EQ(bar.Children.DecisionBAR_ID.Visible(), !running);
+    EXPECT_EQ(bar.Extender().Left(), 300) << "it stays where it was dropped";
+    EXPECT_EQ(bar.Extender().Top(), 400);
+  }
+  EXPECT_EQ(this->site_.Changes(), Texts{});
+}
+
+TYPED_TEST(DecisionToolBarDesignTest, FollowsTheContainersMode) {
+  this->bar_->InitProperties();
+  for (const bool running : {false, true}) {
+    this->site_.UserMode(running);
+    this->bar_->AmbientChanged();
+    EXPECT_EQ(this->Strip().Visible(), running);
+    EXPECT_EQ(this->bar_->Children.DecisionBAR_ID.Visible(), !running);
+  }
+}
+
 /// The edges of a control of that size which its toolbar touches: left, right, top, bottom.
 std::string EdgesOf(const ToolBar& strip, float width, float height) {
   std::string edges;

@@ -152,7 +152,11 @@ TYPED_TEST(DecisionToolBarFailureTest, ValuesOfOtherTypesAreConvertedOrFail) {
       {BlockField::SoftTotal, "soft", 13, ""},
       {BlockField::HardTotal, 40000, 0, " 40000 OR  40010"},
       {BlockField::HardTotal, std::int16_t{32767}, 0, " 32767 OR  32777"},
-      {BlockField::HardTotal, Variant::Null(), 94, ""},
+      {BlockField::HardTotal, Variant::Null(), 0, "Null OR Null"},
+      {BlockField::HardTotal, nullptr, 91, ""},
+      {BlockField::HardTotal, std::make_shared<PropertyObject>("", 7), 0, " 7 OR  17"},
+      {BlockField::HardTotal, 0.5, 0, " .5 OR  10.5"},
+      {BlockField::HardTotal, true, 0, "True OR  9"},
       {BlockField::StrategyAdvice, 32768, 6, ""},
       {BlockField::StrategyAdvice, "two", 13, ""},
       {BlockField::ManualPlayerRestrictions, Variant::Null(), 0, " 7 OR  17"},
@@ -186,6 +190,8 @@ TYPED_TEST(DecisionToolBarFailureTest, NeedsAnObject) {
     }
     EXPECT_EQ(ErrorCodeOf([&] { operation(*this->bar_, Variant(ObjectRef())); }), 91);
   }
+  EXPECT_EQ(ErrorCodeOf([&] { this->bar_->HereIsTheDCB(nullptr); }), 91);
+  EXPECT_EQ(ErrorCodeOf([&] { this->bar_->SetupDecisionBAR(nullptr, nullptr); }), 91);
   EXPECT_EQ(this->recorder_.Take(), Texts{});
   const auto edition = std::make_shared<PropertyObject>();
   EXPECT_EQ(ErrorCodeOf([&] { this->bar_->SetupDecisionBAR(Variant(5), edition); }), 424);

@@ -19,9 +19,6 @@
 
 namespace tactix::tests {
 
-/// Named by its name in reports.
-void PrintTo(const CatalogueEntry& entry, std::ostream* out) { *out << entry.name; }
-
 namespace {
 
 class CatalogueSweepTest : public testing::TestWithParam<CatalogueEntry> {

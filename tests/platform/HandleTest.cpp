@@ -8,6 +8,7 @@
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
 #include "tests/support/HeadlessProbe.h"
+#include "tests/support/PropertyObject.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
@@ -73,7 +74,11 @@ const MemberRow Members[] = {
     {"ListIndex", OfList, "ListIndex", std::int32_t{-1}, "2", std::int32_t{2}},
     {"ListCount", OfList, "ListCount", std::int32_t{5}, Variant::Null(), {}},
     {"VisibilityOfAList", OfList, "visible", true, false, false},
+    {"AnObjectsValue", OfLabel, "Caption", "Ready", std::make_shared<PropertyObject>("", "Steady"), "Steady"},
+    {"AnObjectsPlace", OfLabel, "Left", 100.0F, std::make_shared<PropertyObject>("", 5), 5.0F},
     {"ControlsProperty", OfControl, "tag", "", std::int16_t{7}, "7"},
+    {"AnObjectsValueForAControl", OfControl, "tag", "", std::make_shared<PropertyObject>("", 7), "7"},
+    {"AnObjectsPlaceForAControl", OfControl, "Left", 0.0F, std::make_shared<PropertyObject>("", "40"), 40.0F},
     {"ControlsGetOnlyProperty", OfControl, "PickCount", std::int16_t{0}, Variant::Null(), {}},
     {"ControlsOwnEnabled", OfControl, "Enabled", true, false, false},
     {"ExtendersLeft", OfControl, "Left", 0.0F, 40.0F, 40.0F},
@@ -158,6 +163,33 @@ TEST(HandleTest, APropertyMayDestroyItsControlAsItIsSet) {
   handle->Put("Tag", "x");
   EXPECT_EQ(CodeOf([&] { handle->Get("Tag"); }), 91);
 }
+
+/// A late-bound property and how to find the object that has it.
+struct EndingRow {
+  const char* name;
+  ObjectRef (*object)(HeadlessProbe&);
+  const char* member;
+};
+
+class HandleEndingTest : public testing::TestWithParam<EndingRow> {};
+
+TEST_P(HandleEndingTest, AnObjectMayEndTheWidgetAsItIsAskedForItsValue) {
+  HeadlessProbe probe;
+  const auto value = std::make_shared<PropertyObject>("", true);
+  value->OnUse = [&probe](const std::string&) { probe.DestroyWindow(); };
+  const ObjectRef handle = GetParam().object(probe);
+  const std::int32_t code = CodeOf([&] { handle->Put(GetParam().member, value); });
+  EXPECT_TRUE(code == 0 || code == 91) << code;
+  EXPECT_EQ(probe.outer, nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, HandleEndingTest,
+                         testing::Values(EndingRow{"Label", OfLabel, "Visible"},
+                                         EndingRow{"Caption", OfLabel, "Caption"},
+                                         EndingRow{"Button", OfButton, "DEFAULT"}, EndingRow{"List", OfList, "Text"},
+                                         EndingRow{"Place", OfControl, "Left"},
+                                         EndingRow{"Property", OfControl, "Tag"}),
+                         RowName());
 
 TEST(PropertyTableTest, KnowsItsRowsWithoutCaseAndInOrder) {
   HeadlessProbe probe;

@@ -6,11 +6,13 @@
 
 #include "tactix/platform/Variant.h"
 #include "tests/platform/ErrorCode.h"
+#include "tests/support/PropertyObject.h"
 
 namespace tactix {
 namespace {
 
 using tests::ErrorCodeOf;
+using tests::PropertyObject;
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
@@ -50,11 +52,17 @@ TEST(NumberTextTest, StrHasASignPosition) {
       {"highest long", 2147483647, " 2147483647"},
       {"lowest long", std::numeric_limits<std::int32_t>::min(), "-2147483648"},
       {"empty", {}, " 0"},
-      {"true", true, "-1"},
-      {"false", false, " 0"},
-      {"single", 0.1F, " 0.1"},
+      {"true", true, "True"},
+      {"false", false, "False"},
+      {"null", Variant::Null(), "Null"},
+      {"single below one", 0.24F, " .24"},
       {"negative single", -2.5F, "-2.5"},
-      {"double", 0.1, " 0.1"},
+      {"double below one", 0.1, " .1"},
+      {"negative double below one", -0.5, "-.5"},
+      {"the smallest without an exponent", 0.00001, " .00001"},
+      {"ten and a quarter", 10.25, " 10.25"},
+      {"seven digits of a single", 654322.23456F, " 654322.3"},
+      {"fifteen digits of a double", -2.0 / 3, "-.666666666666667"},
       {"double sum", 17.0, " 17"},
       {"negative zero", -0.0, " 0"},
       {"huge", 1e20, " 1E+20"},
@@ -64,6 +72,10 @@ TEST(NumberTextTest, StrHasASignPosition) {
       {"NaN", NotANumber, " NaN"},
       {"text", "12", " 12"},
       {"negative text", "-1.50", "-1.5"},
+      {"text below one", "0.50", " .5"},
+      {"object", std::make_shared<PropertyObject>("", 0.75), " .75"},
+      {"object that is a flag", std::make_shared<PropertyObject>("", true), "True"},
+      {"object that is null", std::make_shared<PropertyObject>("", Variant::Null()), "Null"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -71,8 +83,8 @@ TEST(NumberTextTest, StrHasASignPosition) {
   }
   EXPECT_EQ(Str(7), " 7");
   EXPECT_EQ(Str(Integer(-7)), "-7");
-  EXPECT_EQ(Str(0.25F), " 0.25");
-  EXPECT_EQ(Str(0.25), " 0.25");
+  EXPECT_EQ(Str(0.25F), " .25");
+  EXPECT_EQ(Str(0.25), " .25");
 }
 
 TEST(NumberTextTest, StrFailsAsTheValueConverts) {
@@ -81,7 +93,7 @@ TEST(NumberTextTest, StrFailsAsTheValueConverts) {
     std::int32_t error;
   };
   const Row rows[] = {
-      {Variant::Null(), 94}, {"", 13}, {"word", 13}, {"1e999", 6}, {Font{}, 13}, {std::make_shared<Seat>(), 13},
+      {"", 13}, {"word", 13}, {"1e999", 6}, {Font{}, 13}, {std::make_shared<Seat>(), 13}, {nullptr, 91},
   };
   for (const Row& row : rows) {
     std::string out = "kept";
@@ -103,7 +115,9 @@ TEST(NumberTextTest, AppendStrKeepsWhatIsThereAndItsBuffer) {
   AppendStr(out, 0.5F);
   AppendStr(out, -0.25);
   AppendStr(out, Variant(Integer(-9)));
-  EXPECT_EQ(out, "total 7 0.5-0.25-9");
+  AppendStr(out, Variant(false));
+  AppendStr(out, Variant::Null());
+  EXPECT_EQ(out, "total 7 .5-.25-9FalseNull");
   EXPECT_EQ(out.data(), buffer);
 }
 
@@ -259,6 +273,12 @@ TEST(NumberTextTest, OtherCharactersPrintThemselves) {
       {"empty picture", 1.5, "", "1.5"},
       {"empty picture of a single", 0.1F, "", "0.1"},
       {"empty picture of a negative number", -3, "", "-3"},
+      {"empty picture of a number below one", -0.5, "", "-0.5"},
+      {"empty picture of a long double", 2.0 / 3, "", "0.666666666666667"},
+      {"empty picture of null", Variant::Null(), "", ""},
+      {"empty picture of an object that is null", std::make_shared<PropertyObject>("", Variant::Null()), "", ""},
+      {"object", std::make_shared<PropertyObject>("", "7.5"), "0.00", "7.50"},
+      {"object that is a single", std::make_shared<PropertyObject>("", 0.1F), "0.0000000000", "0.1000000000"},
   };
   for (const FormatRow& row : rows) Check(row);
 }
@@ -270,17 +290,18 @@ TEST(NumberTextTest, FormatFailsOnWhatIsNoNumber) {
     std::int32_t error;
   };
   const Row rows[] = {
-      {"infinity", Infinity, 5},     {"negative infinity", -Infinity, 5},
-      {"NaN", NotANumber, 5},        {"single NaN", std::numeric_limits<float>::quiet_NaN(), 5},
-      {"null", Variant::Null(), 94}, {"no text", "", 13},
-      {"word", "word", 13},          {"huge text", "1e999", 6},
-      {"font", Font{}, 13},          {"object", ObjectRef(), 13},
+      {"infinity", Infinity, 5},    {"negative infinity", -Infinity, 5},
+      {"NaN", NotANumber, 5},       {"single NaN", std::numeric_limits<float>::quiet_NaN(), 5},
+      {"no text", "", 13},          {"word", "word", 13},
+      {"huge text", "1e999", 6},    {"font", Font{}, 13},
+      {"null object", nullptr, 91}, {"object", std::make_shared<Seat>(), 13},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(ErrorCodeOf([&] { return FormatNumber(row.value, "0.0"); }), row.error);
     EXPECT_EQ(ErrorCodeOf([&] { return FormatNumber(row.value, ""); }), row.error);
   }
+  EXPECT_EQ(ErrorCodeOf([] { return FormatNumber(Variant::Null(), "0.0"); }), 94);
 }
 
 TEST(NumberTextTest, OverloadsKeepTheirWidth) {

@@ -3,15 +3,22 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <limits>
+#include <memory>
+#include <string>
 #include <type_traits>
+#include <vector>
 
+#include "tactix/platform/NumberText.h"
 #include "tests/platform/ErrorCode.h"
+#include "tests/support/PropertyObject.h"
 
 namespace tactix {
 namespace {
 
 using tests::ErrorCodeOf;
+using tests::PropertyObject;
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
@@ -39,6 +46,8 @@ TEST(VariantTest, TypeOfEveryKindOfValue) {
       {text, VariantType::Text},
       {Font{"Comic Sans MS", 8, false, false}, VariantType::Font},
       {ObjectRef(), VariantType::Object},
+      {nullptr, VariantType::Object},
+      {static_cast<const char*>(nullptr), VariantType::Text},
       {std::make_shared<Seat>(), VariantType::Object},
   };
   for (const Row& row : rows) {
@@ -54,7 +63,14 @@ TEST(VariantTest, TakesNothingThatWouldSlipInAsAFlagOrLoseDigits) {
   static_assert(!std::is_convertible_v<std::shared_ptr<int>, Variant>);
   static_assert(!std::is_convertible_v<std::int64_t, Variant>);
   static_assert(!std::is_convertible_v<std::size_t, Variant>);
+  static_assert(std::is_convertible_v<std::nullptr_t, Variant>);
   EXPECT_EQ(Variant("x").Type(), VariantType::Text);
+}
+
+TEST(VariantTest, ANullPointerIsTheNullObjectAndANullTextIsEmpty) {
+  EXPECT_EQ(Variant(nullptr).ToObject(), nullptr);
+  EXPECT_EQ(Variant(nullptr), Variant(ObjectRef()));
+  EXPECT_EQ(Variant(static_cast<const char*>(nullptr)).ToText(), "");
 }
 
 TEST(VariantTest, ToWholeNumbers) {
@@ -105,7 +121,7 @@ TEST(VariantTest, ToWholeNumbers) {
       {"the word True", "True", Mismatch, 0, Mismatch, 0},
       {"font", Font{}, Mismatch, 0, Mismatch, 0},
       {"object", std::make_shared<Seat>(), Mismatch, 0, Mismatch, 0},
-      {"null object", ObjectRef(), Mismatch, 0, Mismatch, 0},
+      {"null object", nullptr, 91, 0, 91, 0},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -168,7 +184,12 @@ TEST(VariantTest, ToBooleanAndConditions) {
       {"yes", "yes", 13, false, 13},
       {"Truely", "Truely", 13, false, 13},
       {"font", Font{}, 13, false, 13},
+      {"#TRUE#", "#TRUE#", 0, true, 0},
+      {"#FALSE#", "#FALSE#", 0, false, 0},
+      {"#true#", "#true#", 13, false, 13},
+      {"#TRUE", "#TRUE", 13, false, 13},
       {"object", std::make_shared<Seat>(), 13, false, 13},
+      {"null object", nullptr, 91, false, 91},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -296,6 +317,146 @@ TEST(VariantTest, LateBoundSum) {
   }
 }
 
+// Objects that stand for a value.
+
+/// Leads on to another object, or to itself.
+class Signpost : public Object {
+ public:
+  Variant Get(std::string_view name) override {
+    return name == DefaultPropertyName ? Variant(to.lock()) : Object::Get(name);
+  }
+
+  std::weak_ptr<Object> to;
+};
+
+/// Every conversion of a value, as a text or an error's code.
+std::vector<std::string> Conversions(const Variant& value) {
+  std::vector<std::string> results;
+  const auto note = [&](const char* name, const auto& convert) {
+    std::string result;
+    const std::int32_t code = ErrorCodeOf([&] {
+      result = convert();
+      return 0;
+    });
+    results.push_back(name + (code == 0 ? ": " + result : " fails with " + std::to_string(code)));
+  };
+  note("Integer", [&] { return std::to_string(value.ToInteger()); });
+  note("Long", [&] { return std::to_string(value.ToLong()); });
+  note("Single", [&] { return Variant(value.ToSingle()).ToText(); });
+  note("Double", [&] { return Variant(value.ToDouble()).ToText(); });
+  note("Boolean", [&] { return Variant(value.ToBoolean()).ToText(); });
+  note("Text", [&] { return value.ToText(); });
+  note("condition", [&] { return Variant(value.CountsAsTrue()).ToText(); });
+  note("Str", [&] { return Str(value); });
+  note("format", [&] { return FormatNumber(value, "000.00"); });
+  note("format without a picture", [&] { return FormatNumber(value, ""); });
+  note("sum", [&] { return Str(Add(value, std::int16_t{10})); });
+  note("sum the other way round", [&] { return Str(Add(0.25F, value)); });
+  return results;
+}
+
+TEST(VariantTest, AnObjectConvertsAsItsDefaultPropertyDoes) {
+  const Variant values[] = {{},     Variant::Null(), true, std::int16_t{-7}, 40000, 0.5F, 1.0 / 3, "12",
+                            "True", "Ann",           "",   Font{},           1e300};
+  for (const Variant& value : values) {
+    const auto object = std::make_shared<PropertyObject>("", value);
+    object->Set("Value", 99);
+    EXPECT_EQ(Conversions(object), Conversions(value));
+    EXPECT_EQ(object.use_count(), 1);
+    const auto around = std::make_shared<PropertyObject>("", object);
+    EXPECT_EQ(Conversions(around), Conversions(value)) << "the default property may be such an object, too";
+  }
+  EXPECT_EQ(Variant(std::make_shared<PropertyObject>("", 2.5)).ToDouble(), 2.5);
+  EXPECT_EQ(Variant(std::make_shared<PropertyObject>("", "Ann")).ToText(), "Ann");
+}
+
+TEST(VariantTest, ObjectsAddUpAsTheirValues) {
+  const auto seven = std::make_shared<PropertyObject>("", std::int16_t{7});
+  const auto half = std::make_shared<PropertyObject>("", 0.5F);
+  const Variant sum = Add(seven, half);
+  EXPECT_EQ(sum.Type(), VariantType::Single);
+  EXPECT_EQ(sum, 7.5F);
+  EXPECT_TRUE(Add(seven, std::make_shared<PropertyObject>("", Variant::Null())).IsNull());
+  const auto broken = std::make_shared<PropertyObject>("", 1);
+  broken->OnUse = [](const std::string&) { throw Error(1234); };
+  EXPECT_TRUE(Add(broken, Variant::Null()).IsNull()) << "nothing is asked where the other is Null";
+  EXPECT_EQ(ErrorCodeOf([&] { return Add(seven, broken); }), 1234);
+  seven->Log.clear();
+  EXPECT_EQ(ErrorCodeOf([&] { return Add(broken, seven); }), 1234);
+  EXPECT_TRUE(seven->Log.empty()) << "the first one is asked first";
+}
+
+TEST(VariantTest, PlainIsTheValueThatAnObjectStandsFor) {
+  EXPECT_EQ(Variant("Ann").Plain(), "Ann");
+  EXPECT_TRUE(Variant().Plain().IsEmpty());
+  const auto object = std::make_shared<PropertyObject>("", std::int16_t{-7});
+  EXPECT_EQ(Variant(object).Plain().Type(), VariantType::Integer);
+  EXPECT_EQ(object->Log, std::vector<std::string>{"Get "});
+}
+
+TEST(VariantTest, AnObjectThatStandsForNothingFails) {
+  const auto itself = std::make_shared<Signpost>();
+  itself->to = itself;
+  const auto there = std::make_shared<Signpost>();
+  const auto back = std::make_shared<Signpost>();
+  there->to = back;
+  back->to = there;
+  const auto failing = std::make_shared<PropertyObject>("", 1);
+  failing->OnUse = [](const std::string&) { throw Error(1234); };
+  struct Row {
+    const char* name;
+    Variant value;
+    std::int32_t error;
+  };
+  const Row rows[] = {
+      {"no default property", std::make_shared<Seat>(), 13},
+      {"null", nullptr, 91},
+      {"leads to itself", itself, 13},
+      {"two lead to each other", there, 13},
+      {"leads to null", std::make_shared<Signpost>(), 91},
+      {"leads to one without a default property", std::make_shared<PropertyObject>("", std::make_shared<Seat>()), 13},
+      {"a getter that fails", failing, 1234},
+      {"leads to a getter that fails", std::make_shared<PropertyObject>("", failing), 1234},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    for (const std::string& result : Conversions(row.value)) {
+      EXPECT_NE(result.find(" fails with " + std::to_string(row.error)), std::string::npos) << result;
+    }
+    EXPECT_EQ(ErrorCodeOf([&] { return row.value.Plain(); }), row.error);
+  }
+}
+
+TEST(VariantTest, AWayOfSixteenObjectsIsTheLongestThatLeadsToAValue) {
+  Variant value = 7;
+  for (int objects = 1; objects <= 16; ++objects) value = std::make_shared<PropertyObject>("", value);
+  EXPECT_EQ(value.ToLong(), 7);
+  value = std::make_shared<PropertyObject>("", value);
+  EXPECT_EQ(ErrorCodeOf([&] { return value.ToLong(); }), 13);
+}
+
+TEST(VariantTest, AnObjectIsKeptUntilItHasAnswered) {
+  using Convert = std::function<void(const Variant&)>;
+  const Convert conversions[] = {
+      [](const Variant& value) { EXPECT_EQ(value.ToInteger(), 7); },
+      [](const Variant& value) { EXPECT_EQ(value.ToSingle(), 7); },
+      [](const Variant& value) { EXPECT_TRUE(value.ToBoolean()); },
+      [](const Variant& value) { EXPECT_EQ(value.ToText(), "7"); },
+      [](const Variant& value) { EXPECT_TRUE(value.CountsAsTrue()); },
+      [](const Variant& value) { EXPECT_EQ(Str(value), " 7"); },
+      [](const Variant& value) { EXPECT_EQ(FormatNumber(value, "0.0"), "7.0"); },
+      [](const Variant& value) { EXPECT_EQ(Add(value, 1), 8); },
+  };
+  for (const Convert& convert : conversions) {
+    auto value = std::make_unique<Variant>();
+    auto object = std::make_shared<PropertyObject>("", 7);
+    object->OnUse = [&value](const std::string&) { value.reset(); };
+    *value = std::move(object);
+    convert(*value);
+    EXPECT_EQ(value, nullptr) << "the only one who held the object has let it go";
+  }
+}
+
 TEST(VariantTest, LateBoundSumOfWhatHasNone) {
   EXPECT_TRUE(Add(Variant::Null(), 1).IsNull());
   EXPECT_TRUE(Add("word", Variant::Null()).IsNull());
@@ -303,6 +464,7 @@ TEST(VariantTest, LateBoundSumOfWhatHasNone) {
   EXPECT_EQ(ErrorCodeOf([] { return Add("", 1); }), 13);
   EXPECT_EQ(ErrorCodeOf([] { return Add(1, Font{}); }), 13);
   EXPECT_EQ(ErrorCodeOf([] { return Add(std::make_shared<Seat>(), 1); }), 13);
+  EXPECT_EQ(ErrorCodeOf([] { return Add(1, nullptr); }), 91);
   EXPECT_EQ(ErrorCodeOf([] { return Add(1.7e308, 1.7e308); }), 6);
 }
 

@@ -165,23 +165,42 @@ TEST(VariantTextTest, ToText) {
       {-0.5, "-0.5"},
       {0.1, "0.1"},
       {0.1F, "0.1"},
-      {0.1 + 0.2, "0.30000000000000004"},
-      {1.0 / 3, "0.3333333333333333"},
+      {0.1 + 0.2, "0.3"},
+      {1.0 / 3, "0.333333333333333"},
+      {-2.0 / 3, "-0.666666666666667"},
+      {1.0F / 3, "0.3333333"},
       {2.0F / 3, "0.6666667"},
+      {654322.23456F, "654322.3"},  // a tie: the single holds 654322.25
+      {-654322.23456F, "-654322.3"},
+      {123456.71875F, "123456.7"},
+      {0.1234567890123405, "0.123456789012341"},  // just above a tie
+      {6.138354903459565, "6.13835490345956"},    // just below one
+      {1234567890123.125, "1234567890123.13"},    // a tie
+      {100000.25, "100000.25"},
       {100000.0, "100000"},
       {123.0, "123"},
       {120.25, "120.25"},
-      {16777216.0F, "16777216"},
+      {9999999.0F, "9999999"},
+      {10000000.0F, "1E+07"},
+      {16777216.0F, "1.677722E+07"},
+      {16777216.0, "16777216"},
+      {-16777216.0F, "-1.677722E+07"},
       {999999999999999.0, "999999999999999"},
+      {999999999999999.5, "1E+15"},
       {1e15, "1E+15"},
-      {1234567890123456.0, "1.234567890123456E+15"},
+      {1234567890123456.0, "1.23456789012346E+15"},
       {1e20, "1E+20"},
       {-1.5e300, "-1.5E+300"},
       {0.00001, "0.00001"},
       {0.0000125, "0.0000125"},
+      {0.00001F, "0.00001"},
+      {0.00000999999999F, "0.00001"},  // rounds up to the last one without an exponent
+      {0.00000999, "9.99E-06"},
       {0.000001, "1E-06"},
-      {std::numeric_limits<double>::denorm_min(), "5E-324"},
-      {std::numeric_limits<float>::max(), "3.4028235E+38"},
+      {std::numeric_limits<double>::denorm_min(), "4.94065645841247E-324"},
+      {std::numeric_limits<double>::max(), "1.79769313486232E+308"},
+      {std::numeric_limits<float>::denorm_min(), "1.401298E-45"},
+      {std::numeric_limits<float>::max(), "3.402823E+38"},
       {Infinity, "Infinity"},
       {-SingleInfinity, "-Infinity"},
       {NotANumber, "NaN"},
@@ -195,13 +214,39 @@ TEST(VariantTextTest, ToText) {
   EXPECT_EQ(ErrorCodeOf([] { return Variant(std::make_shared<Seat>()).ToText(); }), 13);
 }
 
-TEST(VariantTextTest, NumbersReadBackFromTheirText) {
-  for (double value = 1e-320; value < 1e300; value *= 71.3) {
-    EXPECT_EQ(Variant(Variant(value).ToText()).ToDouble(), value);
-    EXPECT_EQ(Variant(Variant(-value / 3).ToText()).ToDouble(), -value / 3);
+/// A text without its point, its exponent and the zeros around its digits.
+std::string DigitsOf(const std::string& text) {
+  std::string digits = text.substr(0, text.find('E'));
+  std::erase_if(digits, [](char c) { return c < '0' || c > '9'; });
+  digits.erase(0, digits.find_first_not_of('0'));
+  return digits;
+}
+
+TEST(VariantTextTest, ATextIsAsCloseToItsNumberAsItsDigitsAllow) {
+  for (double value = 1e-300; value < 1e300; value *= 71.3) {
+    for (const double number : {value, -value / 3}) {
+      const std::string text = Variant(number).ToText();
+      EXPECT_LE(DigitsOf(text).size(), 15U) << text;
+      EXPECT_NEAR(Variant(text).ToDouble() / number, 1, 5.1e-15) << text;
+      EXPECT_EQ(Variant(Variant(text).ToDouble()).ToText(), text);
+    }
   }
-  for (float value = 1e-44F; value < 1e37F; value *= 7.13F) {
-    EXPECT_EQ(Variant(Variant(value).ToText()).ToSingle(), value);
+  for (float value = 1e-37F; value < 1e37F; value *= 7.13F) {
+    for (const float number : {value, -value / 3}) {
+      const std::string text = Variant(number).ToText();
+      EXPECT_LE(DigitsOf(text).size(), 7U) << text;
+      EXPECT_NEAR(Variant(text).ToDouble() / static_cast<double>(number), 1, 5.1e-7) << text;
+    }
+  }
+}
+
+TEST(VariantTextTest, NumbersOfFewDigitsReadBackFromTheirText) {
+  for (int number = -100'000; number <= 100'000; number += 7) {
+    for (const double scale : {1.0, 100.0, 1e6}) {
+      EXPECT_EQ(Variant(Variant(number / scale).ToText()).ToDouble(), number / scale);
+    }
+    const float single = static_cast<float>(number) / 100;
+    EXPECT_EQ(Variant(Variant(single).ToText()).ToSingle(), single);
   }
 }
 

@@ -296,6 +296,35 @@ TEST_F(DecisionRegisterTest, ItsTextsDoNotOverlap) {
   }
 }
 
+TEST_F(DecisionRegisterTest, TakesItsHeightInTheUnitsOfItsContainer) {
+  class Container final : public Control {
+   public:
+    explicit Container(Site& site, ScaleUnit unit) : Control(site) { Extender().Scale(unit); }
+  };
+  const struct {
+    ScaleUnit unit;
+    DecisionRegisterType type;
+    float height;
+    float panelHeight;  // twips
+  } rows[] = {
+      {ScaleUnit::Twips, DecisionRegisterType::StandardDecisionRegister, 1420, 1420},
+      {ScaleUnit::Twips, DecisionRegisterType::AfterAdviceDecisionRegister, 1800, 1800},
+      {ScaleUnit::Pixels, DecisionRegisterType::StandardDecisionRegister, 95, 1425},
+      {ScaleUnit::Pixels, DecisionRegisterType::AfterAdviceDecisionRegister, 120, 1800},
+  };
+  for (const auto& row : rows) {
+    Container container(site_, row.unit);
+    DecisionRegister inside(site_);
+    container.Extender().Add(inside.Extender(), "inside");
+    inside.Extender().Place(0, 0, 240, 7);
+    inside.TypeOfDecisionRegister(row.type);
+    inside.Displayed();
+    EXPECT_EQ(inside.Extender().Height(), row.height);
+    EXPECT_EQ(inside.Extender().Width(), 240);
+    EXPECT_EQ(inside.Children.panelDecisionRegister.Height(), row.panelHeight);
+  }
+}
+
 TEST_F(DecisionRegisterTest, MayBeDestroyedWhenItsHeightChanges) {
   // A container may react to the new size.
   class DestroyingObserver final : public WidgetObserver {

@@ -6,11 +6,13 @@
 #include <vector>
 
 #include "tests/platform/ErrorCode.h"
+#include "tests/support/PropertyObject.h"
 
 namespace tactix {
 namespace {
 
 using tests::ErrorCodeOf;
+using tests::PropertyObject;
 
 constexpr const char* Order[] = {
     "SoftTotal",         "HardTotal",         "PlayerName",        "MidCardsAre",       "ManualPlayerRestrictions",
@@ -97,7 +99,7 @@ TEST(BlockReaderTest, NeedsAnObject) {
 }
 
 TEST(BlockReaderTest, ANullObjectFailsWhenItIsRead) {
-  const BlockReader reader{Variant(ObjectRef())};
+  const BlockReader reader(nullptr);
   EXPECT_EQ(ErrorCodeOf([&] { return reader.Value(BlockField::HardTotal); }), 91);
   std::string out = "kept";
   EXPECT_EQ(ErrorCodeOf([&] {
@@ -311,6 +313,12 @@ TEST(DecisionPromptTest, OfAForeignBlock) {
       {"text totals", "7", "1", " 7 OR  17"},
       {"a fraction below eleven", 7.5, 10.9, " 7.5 OR  17.5"},
       {"an empty total", {}, 1, " 0 OR  10"},
+      {"a total below one", 0.5, 1, " .5 OR  10.5"},
+      {"a single", 0.1F, 0, " .1"},
+      {"a flag as the total", true, 1, "True OR  9"},
+      {"a null total", Variant::Null(), 1, "Null OR Null"},
+      {"objects", std::make_shared<PropertyObject>("", 7), std::make_shared<PropertyObject>("", "2"), " 7 OR  17"},
+      {"an object that is no soft total", 7, std::make_shared<PropertyObject>("", Variant::Null()), " 7"},
       {"wide totals", 2147483647, 1, " 2147483647 OR  2147483657"},
   };
   for (const Row& row : rows) {
@@ -319,6 +327,12 @@ TEST(DecisionPromptTest, OfAForeignBlock) {
     EXPECT_EQ(Prompt(BlockReader(foreign)), std::string("Ann - You have ") + row.total + "  - Make your Selection");
     EXPECT_EQ(foreign->reads, (std::vector<std::string>{"HardTotal", "SoftTotal", "PlayerName"}));
   }
+}
+
+TEST(DecisionPromptTest, AsksTheObjectOfATotalOnce) {
+  const auto total = std::make_shared<PropertyObject>("", 7);
+  total->OnUse = [&](const std::string&) { total->Set("", 8); };
+  EXPECT_EQ(Prompt(BlockReader(ForeignHand(total, 2))), "Ann - You have  7 OR  17  - Make your Selection");
 }
 
 TEST(DecisionPromptTest, AFailureLeavesTheTextAndReadsNoFurther) {
@@ -330,9 +344,12 @@ TEST(DecisionPromptTest, AFailureLeavesTheTextAndReadsNoFurther) {
     std::size_t reads;
   };
   const Row rows[] = {
-      {"null total", "HardTotal", Variant::Null(), 94, 1},       {"total of words", "HardTotal", "seven", 13, 1},
-      {"soft total of words", "SoftTotal", "soft", 13, 2},       {"empty soft total text", "SoftTotal", "", 13, 2},
-      {"true in words is no total", "SoftTotal", "True", 13, 2}, {"null name", "PlayerName", Variant::Null(), 94, 3},
+      {"null object", "HardTotal", nullptr, 91, 1},
+      {"total of words", "HardTotal", "seven", 13, 1},
+      {"soft total of words", "SoftTotal", "soft", 13, 2},
+      {"empty soft total text", "SoftTotal", "", 13, 2},
+      {"true in words is no total", "SoftTotal", "True", 13, 2},
+      {"null name", "PlayerName", Variant::Null(), 94, 3},
       {"name without text", "PlayerName", Font{}, 13, 3},
   };
   for (const Row& row : rows) {

@@ -18,6 +18,7 @@
 #include "tests/support/FakeCatalogue.h"
 #include "tests/support/ListKinds.h"
 #include "tests/support/LoggingBag.h"
+#include "tests/support/PropertyObject.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
@@ -362,15 +363,36 @@ TEST_P(StrategyListControlTest, ABagMayDestroyItAtEveryAccess) {
   }
 }
 
+TEST_P(StrategyListControlTest, ASavedValueMayBeAnObjectAndDestroyItWhenItIsAsked) {
+  for (const std::string& when : GetParam().saved) {
+    if (when == "DefaultContent" || when == "CountStrategy") continue;
+    StartOver();
+    const auto value = std::make_shared<PropertyObject>("", when == "Font" ? Variant(Font{"Small", 7}) : Variant(1));
+    LoggingBag bag;
+    bag.stored.Write(when, value);
+    list_->ReadProperties(bag);
+    value->OnUse = [this](const std::string&) { list_.reset(); };
+    list_->ReadProperties(bag);
+    EXPECT_EQ(list_, nullptr) << when;
+    EXPECT_EQ(bag.log.back(), "read " + when);
+  }
+}
+
 // Being resized.
 
-TEST_P(StrategyListControlTest, TheBoxTakesTheControlsWidth) {
-  const float designHeight = Box().Height();
+TEST_P(StrategyListControlTest, TheBoxTakesTheControlsWidthAndKeepsItsHeight) {
+  EXPECT_EQ(Box().Height(), 390);
   for (const float width : {3000.0F, 10.0F, 0.0F}) {
-    list_->Extender().Place(0, 0, width, 500);
+    list_->Extender().Place(0, 0, width, 500 + width);
     EXPECT_EQ(Box().Width(), width);
-    EXPECT_EQ(Box().Height(), GetParam().takesTheHeight ? 500 : designHeight);
+    EXPECT_EQ(Box().Height(), 390);
   }
+  Box().Place(30, 40, 50, 60);
+  list_->Extender().Place(0, 0, 700, 200);
+  EXPECT_EQ(Box().Left(), 30);
+  EXPECT_EQ(Box().Top(), 40);
+  EXPECT_EQ(Box().Width(), 700);
+  EXPECT_EQ(Box().Height(), 60);
 }
 
 TEST_P(StrategyListControlTest, AFailureOfTheBoxInAResizeIsIgnoredOrReported) {

@@ -168,6 +168,18 @@ TEST_F(StrategyMarquixTest, SelectThisStrategySetsTheMarkOnly) {
   EXPECT_EQ(site_.Changes(), Texts{});
 }
 
+TEST_F(StrategyMarquixTest, ItsTypeComparesWithRowsOfBothEnumerations) {
+  marquee_->ControlType(TypeOfStrategyControl::IsAPlayingControl);
+  EXPECT_TRUE(marquee_->ControlType() == TypeOfStrategyControl::IsAPlayingControl);
+  EXPECT_TRUE(TypeOfStrategyControl::IsAPlayingControl == marquee_->ControlType());
+  EXPECT_FALSE(marquee_->ControlType() == TypeOfStrategyControl::IsABettingControl);
+  EXPECT_TRUE(marquee_->ControlType() != TypeOfStrategyControl::IsAnEvaluationControl);
+  EXPECT_TRUE(marquee_->ControlType() == TypeOfStrategyMarquixControl::IsAPlayingMarquix);
+  marquee_->ControlType(TypeOfStrategyMarquixControl::IsATableSelectionMarquix);
+  EXPECT_FALSE(marquee_->ControlType() == TypeOfStrategyControl::IsAnEvaluationControl);
+  EXPECT_TRUE(marquee_->ControlType() == 4);
+}
+
 TEST_F(StrategyMarquixTest, AUserMayMarkIt) {
   marquee_->ControlType(2);
   Mark().Click();

@@ -2,8 +2,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <iosfwd>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -15,6 +18,8 @@
 #include "tactix/platform/Event.h"
 #include "tactix/platform/Variant.h"
 #include "tactix/platform/headless/HeadlessSite.h"
+#include "tests/support/CallOutHost.h"
+#include "tests/support/CallOuts.h"
 
 namespace tactix::tests {
 
@@ -62,6 +67,13 @@ struct Raiser {
   std::function<void(HeadlessSite&, Control&)> act;
 };
 
+/// Something that a host or a user does with a control and what a host supplies.
+struct Drive {
+  std::string name;
+  /// Checks after each statement that may call out whether the control still exists, as a host does.
+  std::function<void(CallOutHost&, Control&)> act;
+};
+
 /// A control of the library, for tests that sweep over all of them.
 struct CatalogueEntry {
   std::string name;
@@ -79,7 +91,16 @@ struct CatalogueEntry {
   /// Names that a group of elements shares.
   std::vector<std::string> groupNames;
   FailedRead failedRead = FailedRead::PassedOver;
+  /// Its methods, each called once at least, and what raisers do not cover.
+  std::vector<Drive> drives = {};
+  /// What of its host's it calls, whatever is done with it.
+  std::set<CallOut> callsOut = {};
+  /// By drive, the call-outs whose errors it passes over there: those of all calls of the kind, or of some.
+  std::map<std::string, std::set<CallOut>> passesOver = {};
 };
+
+/// Named by its name in reports.
+void PrintTo(const CatalogueEntry& entry, std::ostream* out);
 
 /// All controls. A new one gets an entry function in the file of its room, and a line in Catalogue.cpp.
 const std::vector<CatalogueEntry>& Catalogue();
@@ -127,6 +148,11 @@ CatalogueEntry EntryOf(std::string name) {
     return std::apply(list, static_cast<C&>(control).Events.All());
   };
   return entry;
+}
+
+template <class C>
+Drive DriveOf(std::string name, void (*act)(CallOutHost&, C&)) {
+  return {std::move(name), [act](CallOutHost& host, Control& control) { act(host, static_cast<C&>(control)); }};
 }
 
 template <class C>

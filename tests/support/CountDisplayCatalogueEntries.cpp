@@ -20,6 +20,11 @@ CatalogueEntry CardCountDisplayBoxEntry() {
       {"BackColor", static_cast<Color>(0x80000005), 0x123456},
       {"ForeColor", static_cast<Color>(0x80000008), 0x654321},
   };
+  entry.callsOut = {CallOut::Notice, CallOut::Focus, CallOut::BagRead, CallOut::BagWrite};
+  entry.passesOver = {
+      {"ReadProperties", {CallOut::Notice, CallOut::BagRead}},
+      {"WriteProperties", {CallOut::BagWrite}},
+  };
   return entry;
 }
 
@@ -30,6 +35,7 @@ CatalogueEntry DualCardCountDisplayEntry() {
       {"RunningCountValue", {}, -4},
       {"ShadowBoxStatus", {}, 65535},
   };
+  entry.callsOut = {CallOut::Focus};
   return entry;
 }
 
@@ -57,6 +63,23 @@ CatalogueEntry StrategyDataPanelEntry() {
                                     panel.Children.datAces.MouseDown({LeftButton, 0, 0, 0});
                                   }),
   };
+  using Panel = StrategyDataPanel;
+  entry.drives = {
+      DriveOf<Panel>("HereIsYourStrategyData",
+                     [](CallOutHost& host, Panel& panel) { panel.HereIsYourStrategyData(host.DataBlock()); }),
+      DriveOf<Panel>("HereIsSomeStrategyDataBlockData",
+                     [](CallOutHost& host, Panel& panel) { panel.HereIsSomeStrategyDataBlockData(host.DataBlock()); }),
+      DriveOf<Panel>("HereIsSomeStrategyDataBlockData of none",
+                     [](CallOutHost&, Panel& panel) { panel.HereIsSomeStrategyDataBlockData(nullptr); }),
+      DriveOf<Panel>("StrategyDataBlockData",
+                     [](CallOutHost& host, Panel& panel) { panel.StrategyDataBlockData(host.DataBlock()); }),
+      DriveOf<Panel>("GetClumpStuff", [](CallOutHost&, Panel& panel) { panel.GetClumpStuff(8); }),
+      DriveOf<Panel>("Refresh", [](CallOutHost&, Panel& panel) { panel.Refresh(); }),
+      DriveOf<Panel>("TheKelvoEditionIs",
+                     [](CallOutHost& host, Panel& panel) { panel.TheKelvoEditionIs(host.Edition()); }),
+  };
+  entry.callsOut = {CallOut::Event,     CallOut::Focus,   CallOut::Edition,
+                    CallOut::DataBlock, CallOut::Factory, CallOut::ObjectEnds};
   return entry;
 }
 

@@ -18,6 +18,59 @@ Raiser ButtonRaiser(std::string event, std::string key) {
 }
 
 template <class Bar>
+std::vector<Drive> BarDrives() {
+  return {
+      DriveOf<Bar>("SetupTheDecisionBAR",
+                   [](CallOutHost& host, Bar& bar) { bar.SetupTheDecisionBAR(host.DecisionBlock()); }),
+      DriveOf<Bar>("SetupTheDecisionBAR without an edition",
+                   [](CallOutHost& host, Bar& bar) {
+                     const Weak<Bar> self(bar);
+                     bar.KelvoEdition(nullptr);
+                     if (self) bar.SetupTheDecisionBAR(host.DecisionBlock());
+                   }),
+      DriveOf<Bar>("SetupDecisionBAR",
+                   [](CallOutHost& host, Bar& bar) { bar.SetupDecisionBAR(host.DecisionBlock(), host.Edition()); }),
+      DriveOf<Bar>("SetupDecisionBAR with the library's block",
+                   [](CallOutHost& host, Bar& bar) { bar.SetupDecisionBAR(DecisionBlock(), host.Edition()); }),
+      DriveOf<Bar>("SetupPlayButtons", [](CallOutHost& host, Bar& bar) { bar.SetupPlayButtons(host.DecisionBlock()); }),
+      DriveOf<Bar>("HereIsTheDCB", [](CallOutHost& host, Bar& bar) { bar.HereIsTheDCB(host.DecisionBlock()); }),
+      DriveOf<Bar>("DecodeThisDCB", [](CallOutHost& host, Bar& bar) { bar.DecodeThisDCB(host.DecisionBlock()); }),
+      DriveOf<Bar>("KelvoEdition", [](CallOutHost& host, Bar& bar) { bar.KelvoEdition(host.Edition()); }),
+      DriveOf<Bar>("KelvoEdition where there is none",
+                   [](CallOutHost&, Bar& bar) {
+                     const Weak<Bar> self(bar);
+                     bar.KelvoEdition(nullptr);
+                     if (self) bar.KelvoEdition();
+                   }),
+      DriveOf<Bar>("TheKelvoEditionIs", [](CallOutHost& host, Bar& bar) { bar.TheKelvoEditionIs(host.Edition()); }),
+      DriveOf<Bar>("PlugHitcardButtons", [](CallOutHost&, Bar& bar) { bar.PlugHitcardButtons(0); }),
+      DriveOf<Bar>("PlugHoleCardButtons", [](CallOutHost&, Bar& bar) { bar.PlugHoleCardButtons(0); }),
+      DriveOf<Bar>("PlugTensRatioButtons", [](CallOutHost&, Bar& bar) { bar.PlugTensRatioButtons(0); }),
+      DriveOf<Bar>("PlugDealerStrengthButtons", [](CallOutHost&, Bar& bar) { bar.PlugDealerStrengthButtons(0); }),
+      DriveOf<Bar>("PlugStatusButton", [](CallOutHost&, Bar& bar) { bar.PlugStatusButton(0); }),
+      DriveOf<Bar>("GetReadyForADecision",
+                   [](CallOutHost&, Bar& bar) {
+                     bar.ResetPredictionButtons(true);
+                     bar.GetReadyForADecision();
+                   }),
+      DriveOf<Bar>("ResetYourResponseData", [](CallOutHost&, Bar& bar) { bar.ResetYourResponseData(); }),
+      DriveOf<Bar>("GiveMeYourResponseData", [](CallOutHost&, Bar& bar) { bar.GiveMeYourResponseData(); }),
+      DriveOf<Bar>("FlashObject", [](CallOutHost& host, Bar& bar) { bar.FlashObject(host.FlashedObject()); }),
+      DriveOf<Bar>("BlinkTime", [](CallOutHost&, Bar& bar) { bar.BlinkTime(0.1F); }),
+      DriveOf<Bar>("click of Advice",
+                   [](CallOutHost&, Bar& bar) {
+                     const Weak<Bar> self(bar);
+                     DecisionBlock block;
+                     block.StrategyAdvice(2);
+                     bar.SetupDecisionBAR(block, bar.KelvoEdition());
+                     if (self) bar.Children.DecisionToolBar.Button("Advice").Click();
+                   }),
+      DriveOf<Bar>("click of a prediction",
+                   [](CallOutHost&, Bar& bar) { bar.Children.DecisionToolBar.Buttons().back()->Click(); }),
+  };
+}
+
+template <class Bar>
 CatalogueEntry BarEntry(std::string name) {
   CatalogueEntry entry = EntryOf<Bar>(std::move(name));
   // With an edition from the start, so that reading it needs nobody who makes one.
@@ -51,6 +104,11 @@ CatalogueEntry BarEntry(std::string name) {
           "HereIsThePlayersPromptMessage",
           [](HeadlessSite&, Bar& bar) { bar.SetupDecisionBAR(Variant(std::make_shared<DecisionBlock>()), nullptr); }),
   };
+  entry.drives = BarDrives<Bar>();
+  entry.callsOut = {CallOut::Event,   CallOut::Notice,        CallOut::Wait,      CallOut::Focus,
+                    CallOut::BagRead, CallOut::BagWrite,      CallOut::Edition,   CallOut::DecisionBlock,
+                    CallOut::Factory, CallOut::FlashedObject, CallOut::ObjectEnds};
+  entry.passesOver = {{"ReadProperties", {CallOut::BagRead}}};
   entry.neverRaised = {"AdviceButtonWasPressed", "HereIsAResponseBlock"};
   entry.failedWrite = FailedWrite::Reported;
   return entry;
@@ -64,8 +122,9 @@ Raiser LabelRaiser(std::string event, HitStandLegend::Option HitStandLegend::Chi
 
 Raiser LetterRaiser(std::string event, char letter) {
   return {std::move(event), [letter](HeadlessSite& site, Control& control) {
+            const Weak<Control> legend(control);
             control.Extender().SetFocus();
-            site.PressKey({letter, 0});
+            if (legend) site.PressKey({letter, 0});
           }};
 }
 
@@ -73,7 +132,24 @@ Raiser LetterRaiser(std::string event, char letter) {
 
 CatalogueEntry DecisionBAREntry() { return BarEntry<DecisionBAR>("DecisionBAR"); }
 
-CatalogueEntry DecisionBAR2Entry() { return BarEntry<DecisionBAR2>("DecisionBAR2"); }
+CatalogueEntry DecisionBAR2Entry() {
+  using Bar = DecisionBAR2;
+  CatalogueEntry entry = BarEntry<Bar>("DecisionBAR2");
+  entry.drives.insert(entry.drives.end(),
+                      {
+                          DriveOf<Bar>("ResetTheHitcardPredictionButtons",
+                                       [](CallOutHost&, Bar& bar) { bar.ResetTheHitcardPredictionButtons(); }),
+                          DriveOf<Bar>("ResetTheHoleCardPredictionButtons",
+                                       [](CallOutHost&, Bar& bar) { bar.ResetTheHoleCardPredictionButtons(); }),
+                          DriveOf<Bar>("settings menu",
+                                       [](CallOutHost& host, Bar& bar) {
+                                         host.Site().ScriptMenu([&host](Menu&) { host.Calls.Happen(CallOut::PopUp); });
+                                         bar.Extender().MouseDown({RightButton, 0, 0, 0});
+                                       }),
+                      });
+  entry.callsOut.insert(CallOut::PopUp);
+  return entry;
+}
 
 CatalogueEntry HitStandLegendEntry() {
   using Widgets = HitStandLegend::ChildWidgets;
@@ -88,6 +164,7 @@ CatalogueEntry HitStandLegendEntry() {
       LetterRaiser("HitWasSelected", 'h'),
       LetterRaiser("SurrenderWasSelected", 'G'),
   };
+  entry.callsOut = {CallOut::Event, CallOut::Focus, CallOut::ObjectEnds};
   entry.groupNames = {"LegendOptionHit", "LegendOptionStand", "LegendOptionSplit", "LegendOptionDouble",
                       "LegendOptionSurrender"};
   return entry;

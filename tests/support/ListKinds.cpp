@@ -71,7 +71,6 @@ std::vector<ListKind> MakeKinds() {
   count.reportsFailedWrite = true;
   count.reportsFailedResize = true;
   count.failureOfTheHighestNumber = 6;
-  count.takesTheHeight = false;
   count.reported = [](std::int32_t row, const std::string& text) {
     return "StrategySelectionChanged#1(" + std::to_string(row + 10) + ", " + text + ")";
   };

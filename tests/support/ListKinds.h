@@ -39,7 +39,6 @@ struct ListKind {
   bool reportsFailedRead = false;
   bool reportsFailedWrite = false;
   bool reportsFailedResize = false;
-  bool takesTheHeight = true;
   bool releasesTheCollection = false;
 };
 

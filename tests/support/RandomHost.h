@@ -10,6 +10,7 @@
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Variant.h"
 #include "tactix/platform/headless/HeadlessSite.h"
+#include "tests/support/PropertyObject.h"
 #include "tests/support/RandomSequence.h"
 
 namespace tactix::tests {
@@ -135,7 +136,7 @@ inline MouseState AnyMouse(SequenceRandom& random) {
 
 /// A value of a random type: what a late-bound property of a host's may hold.
 inline Variant AnyValue(SequenceRandom& random) {
-  switch (random.Below(9)) {
+  switch (random.Below(10)) {
     case 0:
       return {};
     case 1:
@@ -152,6 +153,8 @@ inline Variant AnyValue(SequenceRandom& random) {
       return Variant(ObjectRef());
     case 7:
       return static_cast<double>(random.Between(-20, 20)) / 2;
+    case 8:
+      return std::make_shared<PropertyObject>("", random.Between(-2, 12));
     default:
       return random.Between(-2, 12);
   }

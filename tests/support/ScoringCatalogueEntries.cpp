@@ -19,17 +19,31 @@ std::vector<CataloguedProperty> RegisterProperties() {
   };
 }
 
+template <class Register>
+std::vector<Drive> RegisterDrives() {
+  return {
+      DriveOf<Register>("DisplayTheDrillResults",
+                        [](CallOutHost&, Register& counts) { counts.DisplayTheDrillResults(12, 11); }),
+      DriveOf<Register>("ResetDecisionData", [](CallOutHost&, Register& counts) { counts.ResetDecisionData(); }),
+      DriveOf<Register>("SetupStatisticsBox", [](CallOutHost&, Register& counts) { counts.SetupStatisticsBox(true); }),
+  };
+}
+
 }  // namespace
 
 CatalogueEntry DecisionRegisterEntry() {
   CatalogueEntry entry = EntryOf<DecisionRegister>("DecisionRegister");
   entry.properties = RegisterProperties();
+  entry.drives = RegisterDrives<DecisionRegister>();
+  entry.callsOut = {CallOut::Focus};
   return entry;
 }
 
 CatalogueEntry DecisionRegiLOGEntry() {
   CatalogueEntry entry = EntryOf<DecisionRegiLOG>("DecisionRegiLOG");
   entry.properties = RegisterProperties();
+  entry.drives = RegisterDrives<DecisionRegiLOG>();
+  entry.callsOut = {CallOut::Focus};
   return entry;
 }
 

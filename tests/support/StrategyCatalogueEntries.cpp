@@ -30,6 +30,40 @@ std::vector<CataloguedProperty> ListProperties(const std::string& text, const Fo
   };
 }
 
+const std::set<CallOut> CalledByLists = {CallOut::Event,   CallOut::Notice,    CallOut::Beep,      CallOut::Focus,
+                                         CallOut::BagRead, CallOut::BagWrite,  CallOut::Catalogue, CallOut::Collection,
+                                         CallOut::Factory, CallOut::ObjectEnds};
+const std::map<std::string, std::set<CallOut>> PassedOverBags = {{"ReadProperties", {CallOut::BagRead}},
+                                                                 {"WriteProperties", {CallOut::BagWrite}}};
+/// A list that fills quietly; what the range fails with reaches the host.
+const std::map<std::string, std::set<CallOut>> PassedOverInFills = {
+    {"InputPlayingStrategyDescriptions", {CallOut::Catalogue, CallOut::Factory}},
+    {"LoadStrategiesFromIniFile", {CallOut::Catalogue}},
+};
+
+/// What hosts do with all lists.
+template <class List>
+std::vector<Drive> ListDrives() {
+  return {
+      DriveOf<List>("AddItem", [](CallOutHost&, List& list) { list.AddItem("row", 0); }),
+      DriveOf<List>("LoadStrategiesFromIniFile", [](CallOutHost&, List& list) { list.LoadStrategiesFromIniFile(); }),
+      DriveOf<List>("UseThisStrategyList",
+                    [](CallOutHost& host, List& list) { list.UseThisStrategyList(host.Collection()); }),
+      DriveOf<List>("pick of a row that is not present",
+                    [](CallOutHost&, List& list) {
+                      list.AddItem("Not Present", 0);
+                      static_cast<ListBox&>(*list.Extender().Children()[0]).PickRow(0);
+                    }),
+      DriveOf<List>("Enabled, with the focus",
+                    [](CallOutHost&, List& list) {
+                      const Weak<List> self(list);
+                      list.Enabled(true);
+                      if (self) list.Extender().Children()[0]->SetFocus();
+                      if (self) list.Enabled(false);
+                    }),
+  };
+}
+
 template <class List>
 CatalogueEntry NumberedListEntry(std::string name, const std::string& toolTip = {}) {
   CatalogueEntry entry = EntryOf<List>(std::move(name));
@@ -47,6 +81,9 @@ CatalogueEntry NumberedListEntry(std::string name, const std::string& toolTip = 
                        list.ListIndex(-1);
                      }),
   };
+  entry.drives = ListDrives<List>();
+  entry.callsOut = CalledByLists;
+  entry.passesOver = PassedOverBags;
   return entry;
 }
 
@@ -79,6 +116,9 @@ CatalogueEntry StrategyListEntry() {
     list.AddItem("row");
     list.SelectThisStrategy(-1);
   }));
+  entry.drives.push_back(
+      DriveOf<StrategyList>("InputPlayingStrategyDescriptions",
+                            [](CallOutHost&, StrategyList& list) { list.InputPlayingStrategyDescriptions(); }));
   return entry;
 }
 
@@ -86,12 +126,20 @@ CatalogueEntry StrategyListLITEEntry() {
   CatalogueEntry entry = NumberedListEntry<StrategyListLITE>("StrategyListLITE");
   entry.failedRead = FailedRead::Reported;
   entry.failedWrite = FailedWrite::Reported;
+  entry.drives.push_back(
+      DriveOf<StrategyListLITE>("InputPlayingStrategyDescriptions",
+                                [](CallOutHost&, StrategyListLITE& list) { list.InputPlayingStrategyDescriptions(); }));
+  entry.passesOver = PassedOverInFills;
   return entry;
 }
 
 CatalogueEntry BetStrategyListEntry() {
-  return NumberedListEntry<BetStrategyList>("BetStrategyList",
-                                            "Click the down-arrow to open the Betting Strategy List");
+  CatalogueEntry entry =
+      NumberedListEntry<BetStrategyList>("BetStrategyList", "Click the down-arrow to open the Betting Strategy List");
+  entry.drives.push_back(
+      DriveOf<BetStrategyList>("InputBettingStrategyDescriptions",
+                               [](CallOutHost&, BetStrategyList& list) { list.InputBettingStrategyDescriptions(); }));
+  return entry;
 }
 
 CatalogueEntry CountStrategyListEntry() {
@@ -107,6 +155,26 @@ CatalogueEntry CountStrategyListEntry() {
           [](HeadlessSite&, CountStrategyList& list) { list.Children.StrategyListBox.PickRow(0); }),
       RaiserOf<CountStrategyList>("StrategySelectionChanged",
                                   [](HeadlessSite&, CountStrategyList& list) { list.CountStrategy(38); }),
+  };
+  entry.drives = ListDrives<CountStrategyList>();
+  entry.drives.insert(
+      entry.drives.end(),
+      {
+          DriveOf<CountStrategyList>("CountValue",
+                                     [](CallOutHost&, CountStrategyList& list) { list.CountValue(38, 4); }),
+          DriveOf<CountStrategyList>("Record", [](CallOutHost&, CountStrategyList& list) { list.Record(38); }),
+          DriveOf<CountStrategyList>(
+              "InputCountStrategyDescriptions",
+              [](CallOutHost&, CountStrategyList& list) { list.InputCountStrategyDescriptions(); }),
+      });
+  entry.callsOut = CalledByLists;
+  const std::set<CallOut> fill = {CallOut::Catalogue, CallOut::Factory};
+  entry.passesOver = {
+      {"ReadProperties", {CallOut::Event, CallOut::BagRead, CallOut::Catalogue, CallOut::Factory}},
+      {"InputCountStrategyDescriptions", fill},
+      {"LoadStrategiesFromIniFile", {CallOut::Catalogue}},
+      {"set CountStrategy", fill},
+      {"raise StrategySelectionChanged 2", fill},
   };
   return entry;
 }
@@ -135,6 +203,26 @@ CatalogueEntry StrategyMarquixEntry() {
                                   marquee.ListIndex(-1);
                                 }),
   };
+  using Marquee = StrategyMarquix;
+  entry.drives = {
+      DriveOf<Marquee>("AddItem", [](CallOutHost&, Marquee& marquee) { marquee.AddItem("row"); }),
+      DriveOf<Marquee>("aStrategyExists", [](CallOutHost&, Marquee& marquee) { marquee.aStrategyExists(); }),
+      DriveOf<Marquee>("InputPlayingStrategyDescriptions",
+                       [](CallOutHost&, Marquee& marquee) { marquee.InputPlayingStrategyDescriptions(); }),
+      DriveOf<Marquee>("LoadStrategiesFromIniFile",
+                       [](CallOutHost&, Marquee& marquee) { marquee.LoadStrategiesFromIniFile(); }),
+      DriveOf<Marquee>("SelectThisStrategy", [](CallOutHost&, Marquee& marquee) { marquee.SelectThisStrategy(true); }),
+      DriveOf<Marquee>("SetFocus", [](CallOutHost&, Marquee& marquee) { marquee.SetFocus(); }),
+      DriveOf<Marquee>("UseThisStrategyList",
+                       [](CallOutHost& host, Marquee& marquee) { marquee.UseThisStrategyList(host.Collection()); }),
+      DriveOf<Marquee>("pick of a row that is not present",
+                       [](CallOutHost&, Marquee& marquee) {
+                         marquee.Children.StrategyListBox.AddItem("Not Present", 0);
+                         marquee.Children.StrategyListBox.Children.StrategyListBox.PickRow(0);
+                       }),
+  };
+  entry.callsOut = CalledByLists;
+  entry.passesOver = PassedOverInFills;
   return entry;
 }
 

@@ -11,6 +11,20 @@
 
 namespace tactix::tests {
 
+namespace {
+
+/// What the selectors of a card's value share.
+void AddTheSelectorsCallOuts(CatalogueEntry& entry) {
+  entry.callsOut = {CallOut::Event,   CallOut::Notice,   CallOut::Focus,
+                    CallOut::BagRead, CallOut::BagWrite, CallOut::ObjectEnds};
+  entry.passesOver = {
+      {"ReadProperties", {CallOut::Event, CallOut::Notice, CallOut::BagRead}},
+      {"WriteProperties", {CallOut::BagWrite}},
+  };
+}
+
+}  // namespace
+
 CatalogueEntry SpinCounterEntry() {
   CatalogueEntry entry = EntryOf<SpinCounter>("SpinCounter");
   entry.make = [](Site& site) {
@@ -36,6 +50,18 @@ CatalogueEntry SpinCounterEntry() {
       RaiserOf<SpinCounter>("CounterValueHasChanged",
                             [](HeadlessSite&, SpinCounter& counter) { counter.CounterValue(5); }),
   };
+  entry.drives = {
+      DriveOf<SpinCounter>("ResetSizeToDefault",
+                           [](CallOutHost&, SpinCounter& counter) { counter.ResetSizeToDefault(); }),
+      DriveOf<SpinCounter>("ControlHandedness of none",
+                           [](CallOutHost&, SpinCounter& counter) { counter.ControlHandedness(5); }),
+  };
+  entry.callsOut = {CallOut::Event,    CallOut::Notice,       CallOut::Beep,    CallOut::Focus,     CallOut::BagRead,
+                    CallOut::BagWrite, CallOut::CounterValue, CallOut::Factory, CallOut::ObjectEnds};
+  entry.passesOver = {
+      {"ReadProperties", {CallOut::Notice, CallOut::BagRead, CallOut::CounterValue, CallOut::Factory}},
+      {"WriteProperties", {CallOut::BagWrite, CallOut::CounterValue, CallOut::Factory}},
+  };
   return entry;
 }
 
@@ -53,6 +79,7 @@ CatalogueEntry CountValueSelectorEntry() {
       RaiserOf<CountValueSelector>("CountValueSelected",
                                    [](HeadlessSite&, CountValueSelector& selector) { selector.PointValue(1); }),
   };
+  AddTheSelectorsCallOuts(entry);
   return entry;
 }
 
@@ -67,6 +94,7 @@ CatalogueEntry ClumpCardListEntry() {
                               [](HeadlessSite&, ClumpCardList& list) { list.Children.cmbClumpValue.PickRow(20); }),
       RaiserOf<ClumpCardList>("ClumpValueSelected", [](HeadlessSite&, ClumpCardList& list) { list.ClumpValue(1); }),
   };
+  AddTheSelectorsCallOuts(entry);
   return entry;
 }
 
@@ -77,6 +105,7 @@ CatalogueEntry UnitSelectionListEntry() {
           "UnitSizeSelected",
           [](HeadlessSite&, UnitSelectionList& list) { list.Children.comboBettingUnits.PickRow(0); }),
   };
+  entry.callsOut = {CallOut::Event, CallOut::Focus, CallOut::ObjectEnds};
   return entry;
 }
 

@@ -27,6 +27,14 @@ Widget* FindAccessKey(Widget& widget, char letter) {
   return nullptr;
 }
 
+/// Closes a menu that still exists, also where its script fails.
+struct ClosedAtTheEnd {
+  Weak<Menu> menu;
+  ~ClosedAtTheEnd() {
+    if (menu) menu->Close();
+  }
+};
+
 void Click(Widget& button) {
   if (button.Kind() == WidgetKind::PushButton) {
     static_cast<PushButton&>(button).Click();
@@ -104,11 +112,10 @@ void HeadlessSite::PopUp(Menu& menu, Widget&, float x, float y) {
   menu.Opened(*this);
   popUps_.push_back({menu.Caption(), x, y});
   if (menuScripts_.empty()) return menu.Close();
-  const Weak<Menu> stillThere(menu);
+  const ClosedAtTheEnd closed{Weak<Menu>(menu)};
   const auto script = std::move(menuScripts_.front());
   menuScripts_.pop_front();
   script(menu);
-  if (stillThere) menu.Close();
 }
 
 void HeadlessSite::MadeDefault(PushButton& button) {

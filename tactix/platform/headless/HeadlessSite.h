@@ -18,7 +18,7 @@ namespace tactix {
 
 /// A site without a toolkit, for tests and tools: one window's worth of controls, a virtual clock that moves only when
 /// something waits or Advance is called, scripted menus, and a record of what the controls asked for.
-class TACTIX_EXPORT HeadlessSite final : public Site {
+class TACTIX_EXPORT HeadlessSite : public Site {
  public:
   HeadlessSite() = default;
 

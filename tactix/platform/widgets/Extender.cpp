@@ -42,7 +42,11 @@ bool Extender::ReadMember(std::string_view name, Variant& value) const {
 
 bool Extender::WriteMember(std::string_view name, const Variant& value) {
   const PropertyTable::Row* const row = IsContainersName(name) ? nullptr : control_.Properties().Find(name);
-  if (!row) return Widget::WriteMember(name, value);
+  if (!row) {
+    const Weak<Extender> self(this);
+    const Variant plain = value.Plain();
+    return !self || Widget::WriteMember(name, plain);
+  }
   if (!row->set) return false;
   row->set(control_, value);
   return true;

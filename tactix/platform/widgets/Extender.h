@@ -39,6 +39,7 @@ class TACTIX_EXPORT Extender final : public Widget {
   static constexpr float TwipsPerPixel = 15.0F;
 
  private:
+  friend class Control;  // which marks it as gone
   void PlaceChanged(bool sizeChanged) override;
 
   Control& control_;

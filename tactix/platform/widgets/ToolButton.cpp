@@ -23,10 +23,13 @@ class ToolButtonHandle final : public Object {
     return Object::Get(name);
   }
   void Put(std::string_view name, const Variant& value) override {
+    Target();
+    // Asking an object of the host's for its value may end the button.
+    const Variant plain = value.Plain();
     ToolButton& button = Target();
-    if (SameName(name, "Visible")) return button.Visible(value.ToBoolean());
-    if (SameName(name, "Enabled")) return button.Enabled(value.ToBoolean());
-    if (SameName(name, "Value")) return button.Value(value.ToBoolean());
+    if (SameName(name, "Visible")) return button.Visible(plain.ToBoolean());
+    if (SameName(name, "Enabled")) return button.Enabled(plain.ToBoolean());
+    if (SameName(name, "Value")) return button.Value(plain.ToBoolean());
     Object::Put(name, value);
   }
 

@@ -22,7 +22,11 @@ class WidgetHandle final : public Object {
     return value;
   }
   void Put(std::string_view name, const Variant& value) override {
-    if (!Target().WriteMember(name, value)) throw Error(Error::NoSuchMember);
+    // Asking an object of the host's for its value may end the widget. A control converts by itself: it may have
+    // properties that are objects.
+    const bool isControl = Target().Kind() == WidgetKind::Extender;
+    const Variant taken = isControl ? value : value.Plain();
+    if (!Target().WriteMember(name, taken)) throw Error(Error::NoSuchMember);
   }
   Variant Call(std::string_view name, std::span<Variant> arguments) override {
     Variant result;

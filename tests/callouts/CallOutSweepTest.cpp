@@ -1,0 +1,253 @@
+// Whatever a control calls of its host's may do anything: every control x everything that is done with it x every call
+// that it makes meanwhile x what the host may do in the middle of that call. Sanitizers watch.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "tactix/platform/Error.h"
+#include "tactix/platform/PropertyTable.h"
+#include "tactix/strategy/StrategyListData.h"
+#include "tests/platform/ErrorCode.h"
+#include "tests/support/CallOutHost.h"
+#include "tests/support/Catalogue.h"
+#include "tests/support/RowName.h"
+
+namespace tactix::tests {
+
+namespace {
+
+/// What is thrown that is no Error.
+struct SomethingElse {};
+
+constexpr std::int32_t HostsError = 13;
+
+Drive DriveOfProperty(const CataloguedProperty& property, bool isWritten) {
+  return {(isWritten ? "set " : "get ") + property.name, [property, isWritten](CallOutHost& host, Control& control) {
+            const PropertyTable::Row& row = *control.Properties().Find(property.name);
+            if (!isWritten) {
+              row.get(control);
+            } else if (property.other.Type() != VariantType::Object) {
+              row.set(control, property.other);
+            } else {
+              row.set(control, property.name == "KelvoEdition" ? host.Edition() : host.DataBlock());
+            }
+          }};
+}
+
+/// What containers do with every control.
+const std::vector<Drive>& DrivesOfContainers() {
+  static const std::vector<Drive> drives = {
+      {"InitProperties", [](CallOutHost&, Control& control) { control.InitProperties(); }},
+      {"ReadProperties", [](CallOutHost& host, Control& control) { control.ReadProperties(host.Bag()); }},
+      {"WriteProperties", [](CallOutHost& host, Control& control) { control.WriteProperties(host.Bag()); }},
+      {"Resized", [](CallOutHost&, Control& control) { control.Resized(); }},
+      {"another size", [](CallOutHost&, Control& control) { control.Extender().Place(15, 30, 4500, 3000); }},
+      {"Displayed", [](CallOutHost&, Control& control) { control.Displayed(); }},
+      {"GotFocus", [](CallOutHost&, Control& control) { control.GotFocus(); }},
+      {"the focus", [](CallOutHost&, Control& control) { control.Extender().SetFocus(); }},
+      {"AmbientChanged", [](CallOutHost&, Control& control) { control.AmbientChanged(); }},
+      {"Terminated", [](CallOutHost&, Control& control) { control.Terminated(); }},
+      {"its end", [](CallOutHost& host, Control&) { host.DestroyControl(); }},
+  };
+  return drives;
+}
+
+std::vector<Drive> DrivesOf(const CatalogueEntry& entry) {
+  std::vector<Drive> drives = DrivesOfContainers();
+  const std::unique_ptr<HeadlessSite> site = std::make_unique<HeadlessSite>();
+  const std::unique_ptr<Control> control = entry.make(*site);
+  for (const CataloguedProperty& property : entry.properties) {
+    const PropertyTable::Row& row = *control->Properties().Find(property.name);
+    if (row.get) drives.push_back(DriveOfProperty(property, false));
+    if (row.set) drives.push_back(DriveOfProperty(property, true));
+  }
+  std::map<std::string, int> raisersOf;
+  for (const Raiser& raiser : entry.raisers) {
+    drives.push_back({"raise " + raiser.event + " " + std::to_string(++raisersOf[raiser.event]),
+                      [act = raiser.act](CallOutHost& host, Control& driven) { act(host.Site(), driven); }});
+  }
+  drives.insert(drives.end(), entry.drives.begin(), entry.drives.end());
+  return drives;
+}
+
+/// How a drive ended.
+struct Ending {
+  bool error = false;  // an Error with the host's code, at the caller or at the site
+  bool somethingElse = false;
+};
+
+Ending EndingOf(CallOutHost& host, const Drive& drive) {
+  Ending ending;
+  try {
+    drive.act(host, *host.ItsControl());
+  } catch (const Error& error) {
+    ending.error = error.Code() == HostsError;
+  } catch (const SomethingElse&) {
+    ending.somethingElse = true;
+  }
+  if (!host.HasWindow()) return ending;
+  for (const Error& error : host.Site().Errors()) {
+    ending.error |= error.Code() == HostsError;
+    ending.somethingElse |= error.Code() == Error::InvalidProcedureCall;
+  }
+  return ending;
+}
+
+class CallOutSweepTest : public testing::TestWithParam<CatalogueEntry> {
+ protected:
+  /// One call of the host's during a drive.
+  struct Place {
+    const Drive& drive;
+    /// How often the control has been driven the same way before: what it then lets go of, it had got before.
+    int before;
+    CallOut kind;
+    int call;
+
+    std::string Name() const {
+      return drive.name + (before ? ", again" : "") + ": " + std::string(NameOf(kind)) + " " + std::to_string(call);
+    }
+  };
+
+  static void Prepare(CallOutHost& host, const Drive& drive, int before) {
+    for (int i = 0; i < before && host.ItsControl(); ++i) {
+      drive.act(host, *host.ItsControl());
+      if (host.HasWindow()) host.RenewTheObjects();
+    }
+    host.Calls.Take();
+  }
+
+  /// The calls of a drive in which nothing happens.
+  static CallOuts::Counts CallsOf(const Drive& drive, int before) {
+    CallOutHost host(GetParam());
+    Prepare(host, drive, before);
+    if (host.ItsControl()) drive.act(host, *host.ItsControl());
+    return host.Calls.Take();
+  }
+
+  template <class Visit>
+  static void ForEachPlace(const Visit& visit) {
+    for (const Drive& drive : DrivesOf(GetParam())) {
+      for (const int before : {0, 1}) {
+        for (const auto& [kind, count] : CallsOf(drive, before)) {
+          for (int call = 1; call <= count; ++call) visit(Place{drive, before, kind, call});
+        }
+      }
+    }
+  }
+
+  /// Drives a new control and has the host act at the place. `check` sees how that ended.
+  template <class Act, class Check>
+  static void ActAt(const Place& place, const Act& act, const Check& check) {
+    SCOPED_TRACE(place.Name());
+    CallOutHost host(GetParam());
+    Prepare(host, place.drive, place.before);
+    host.Calls.Arm(place.kind, place.call, [&] { act(host); });
+    const Ending ending = EndingOf(host, place.drive);
+    EXPECT_EQ(host.Calls.Actions(), 1) << "the drive went another way";
+    check(host, ending);
+    host.Calls.Disarm();
+    if (host.HasWindow()) host.Site().Advance(2000);  // no timer of a dead control ticks
+    EXPECT_EQ(host.Calls.Late(), std::vector<std::string>{}) << "asked by a control that is gone";
+  }
+};
+
+TEST_P(CallOutSweepTest, AnyCallOutMayDestroyTheControlOrItsWindow) {
+  for (const bool withWindow : {false, true}) {
+    ForEachPlace([&](const Place& place) {
+      ActAt(
+          place, [&](CallOutHost& host) { withWindow ? host.DestroyWindow() : host.DestroyControl(); },
+          [&](CallOutHost& host, const Ending& ending) {
+            EXPECT_EQ(host.ItsControl(), nullptr);
+            EXPECT_FALSE(ending.error || ending.somethingElse);
+            if (host.HasWindow()) EXPECT_TRUE(host.Site().Errors().empty());
+          });
+    });
+  }
+}
+
+TEST_P(CallOutSweepTest, AnyCallOutMayFail) {
+  std::map<std::string, std::set<CallOut>> passedOver;
+  ForEachPlace([&](const Place& place) {
+    if (place.kind == CallOut::ObjectEnds) return;  // destructors do not throw
+    ActAt(
+        place, [](CallOutHost&) { throw Error(HostsError); },
+        [&](CallOutHost&, const Ending& ending) {
+          if (!ending.error) passedOver[place.drive.name].insert(place.kind);
+        });
+    ActAt(
+        place, [](CallOutHost&) { throw SomethingElse(); },
+        [&](CallOutHost&, const Ending& ending) { EXPECT_TRUE(ending.somethingElse) << "nobody has heard of it"; });
+  });
+  EXPECT_EQ(passedOver, GetParam().passesOver);
+}
+
+TEST_P(CallOutSweepTest, GoesOnWorkingAfterAFailure) {
+  CallOuts::Counts expected;
+  ForEachPlace([&](const Place& place) {
+    if (place.kind == CallOut::ObjectEnds) return;
+    if (place.call == 1) expected = CallsOf(place.drive, place.before + 2);
+    for (const bool isError : {true, false}) {
+      SCOPED_TRACE(place.Name());
+      CallOutHost host(GetParam());
+      Prepare(host, place.drive, place.before);
+      host.Calls.Arm(place.kind, place.call, [isError] {
+        if (isError) throw Error(HostsError);
+        throw SomethingElse();
+      });
+      EndingOf(host, place.drive);
+      host.RenewTheObjects();
+      Prepare(host, place.drive, 1);
+      place.drive.act(host, *host.ItsControl());
+      EXPECT_EQ(host.Calls.Take(), expected);
+    }
+  });
+}
+
+TEST_P(CallOutSweepTest, TheSiteMayDestroyWhatHasFailed) {
+  ForEachPlace([&](const Place& place) {
+    if (place.kind == CallOut::ObjectEnds) return;
+    CallOutHost host(GetParam());
+    Prepare(host, place.drive, place.before);
+    host.Calls.Arm(place.kind, place.call, [] { throw Error(HostsError); });
+    host.Calls.Arm(CallOut::Unhandled, 1, [&host] { host.DestroyWindow(); });
+    EndingOf(host, place.drive);
+    EXPECT_EQ(host.Calls.Late(), std::vector<std::string>{}) << place.Name();
+  });
+}
+
+TEST_P(CallOutSweepTest, AnyCallOutMayCallBack) {
+  ForEachPlace([&](const Place& place) {
+    const auto callBack = [&](CallOutHost& host) {
+      StrategyListData::UseCatalogue(nullptr);
+      const bool isGone = !host.ItsControl();
+      for (const CataloguedProperty& property : GetParam().properties) {
+        const std::int32_t code = ErrorCodeOf([&] {
+          host.Handle()->Put(property.name, property.other);
+          return host.Handle()->Get(property.name);
+        });
+        if (isGone) EXPECT_EQ(code, Error::ObjectNotSet) << "a handle of a control that is gone";
+      }
+      if (!host.HasWindow()) return;
+      host.RenewTheObjects();
+      if (host.ItsControl()) place.drive.act(host, *host.ItsControl());
+    };
+    ActAt(place, callBack, [](CallOutHost&, const Ending& ending) { EXPECT_FALSE(ending.somethingElse); });
+  });
+}
+
+TEST_P(CallOutSweepTest, ItsCallOutsAreInTheCatalogue) {
+  std::set<CallOut> found;
+  ForEachPlace([&](const Place& place) { found.insert(place.kind); });
+  EXPECT_EQ(found, GetParam().callsOut);
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, CallOutSweepTest, testing::ValuesIn(Catalogue()), RowName());
+
+}  // namespace
+}  // namespace tactix::tests
