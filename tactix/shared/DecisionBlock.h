@@ -14,7 +14,8 @@ namespace tactix {
 /// advises. The host fills it and hands it to a decision control, which copies it. Plain values without validation; in
 /// a new block every number is 0, every flag false and every text empty. Standing is always legal and has no flag.
 ///
-/// Also a late-bound object with the same properties. Put fails as the value's conversion does, and keeps the old one.
+/// Also a late-bound object with the same properties. Put fails with the error of a value that does not convert, and
+/// then keeps the old value.
 class TACTIX_EXPORT DecisionBlock final : public Object {
  public:
   /// The player, or seat, whose hand is being decided.
