@@ -263,7 +263,7 @@ TEST_F(DecisionFailureTest, TheEditionIsKeptBeforeTheBlockIsRead) {
   for (const auto& [block, code] : {std::pair<Variant, int>{5, 424}, {Variant::Null(), 424}, {nullptr, 91}}) {
     const auto edition = std::make_shared<PropertyObject>();
     edition->OnCall = [](std::string_view, std::span<Variant> arguments) { arguments[0] = 9; };
-    EXPECT_EQ(ErrorCodeOf([&] { box_->SetupDecisionBox(block, edition); }), code);
+    EXPECT_EQ(ErrorCodeOf([&, &given = block] { box_->SetupDecisionBox(given, edition); }), code);
     std::int16_t flag = 1;
     box_->Show(flag);
     EXPECT_EQ(flag, 9) << "shown by the new edition";

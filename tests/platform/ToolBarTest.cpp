@@ -10,6 +10,7 @@
 #include "tactix/platform/headless/HeadlessSite.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/EventRecorder.h"
+#include "tests/support/PropertyObject.h"
 
 namespace tactix::tests {
 namespace {
@@ -200,6 +201,17 @@ TEST_F(ToolBarTest, AButtonsHandleOutlivesIt) {
   control_.reset();
   EXPECT_EQ(ErrorCodeOf([&] { return handle->Get("Key"); }), 91);
   EXPECT_EQ(ErrorCodeOf([&] { handle->Put("Value", true); }), 91);
+}
+
+TEST_F(ToolBarTest, AButtonsHandleTakesTheValueOfAnObjectWhichMayEndTheButton) {
+  const ObjectRef handle = Button("Push").Handle();
+  const auto value = std::make_shared<PropertyObject>("", 0);
+  handle->Put("Visible", value);
+  EXPECT_FALSE(Button("Push").Visible());
+  EXPECT_EQ(ErrorCodeOf([&] { handle->Put("Visible", nullptr); }), 91);
+  value->OnUse = [this](const std::string&) { control_.reset(); };
+  EXPECT_EQ(ErrorCodeOf([&] { handle->Put("Enabled", value); }), 91);
+  EXPECT_EQ(control_, nullptr);
 }
 
 TEST_F(ToolBarTest, PicturesHaveNumbersFromOne) {
