@@ -114,6 +114,14 @@ class CallOutSweepTest : public testing::TestWithParam<CatalogueEntry> {
     }
   };
 
+  static void Destroy(CallOutHost& host, bool withWindow) {
+    if (withWindow) {
+      host.DestroyWindow();
+    } else {
+      host.DestroyControl();
+    }
+  }
+
   static void Prepare(CallOutHost& host, const Drive& drive, int before) {
     for (int i = 0; i < before && host.ItsControl(); ++i) {
       drive.act(host, *host.ItsControl());
@@ -161,12 +169,26 @@ TEST_P(CallOutSweepTest, AnyCallOutMayDestroyTheControlOrItsWindow) {
   for (const bool withWindow : {false, true}) {
     ForEachPlace([&](const Place& place) {
       ActAt(
-          place, [&](CallOutHost& host) { withWindow ? host.DestroyWindow() : host.DestroyControl(); },
+          place, [&](CallOutHost& host) { Destroy(host, withWindow); },
           [&](CallOutHost& host, const Ending& ending) {
             EXPECT_EQ(host.ItsControl(), nullptr);
             EXPECT_FALSE(ending.error || ending.somethingElse);
             if (host.HasWindow()) EXPECT_TRUE(host.Site().Errors().empty());
           });
+    });
+  }
+}
+
+TEST_P(CallOutSweepTest, AnyCallOutMayDestroyAndFail) {
+  // "Object not set" too, which some routines pass over.
+  for (const std::int32_t code : {HostsError, std::int32_t{Error::ObjectNotSet}}) {
+    ForEachPlace([&](const Place& place) {
+      if (place.kind == CallOut::ObjectEnds) return;
+      const auto act = [&](CallOutHost& host) {
+        Destroy(host, code == HostsError);
+        throw Error(code);
+      };
+      ActAt(place, act, [](CallOutHost& host, const Ending&) { EXPECT_EQ(host.ItsControl(), nullptr); });
     });
   }
 }
@@ -238,6 +260,23 @@ TEST_P(CallOutSweepTest, AnyCallOutMayCallBack) {
       if (host.ItsControl()) place.drive.act(host, *host.ItsControl());
     };
     ActAt(place, callBack, [](CallOutHost&, const Ending& ending) { EXPECT_FALSE(ending.somethingElse); });
+  });
+}
+
+TEST_P(CallOutSweepTest, ACallBackMayDestroyIt) {
+  ForEachPlace([&](const Place& place) {
+    const auto act = [&](CallOutHost& host) {
+      if (!host.ItsControl()) return;
+      host.RenewTheObjects();
+      host.Calls.Arm(place.kind, 1, [&host] { host.DestroyWindow(); });
+      place.drive.act(host, *host.ItsControl());
+    };
+    CallOutHost host(GetParam());
+    Prepare(host, place.drive, place.before);
+    host.Calls.Arm(place.kind, place.call, [&] { act(host); });
+    const Ending ending = EndingOf(host, place.drive);
+    EXPECT_FALSE(ending.error || ending.somethingElse) << place.Name();
+    EXPECT_EQ(host.Calls.Late(), std::vector<std::string>{}) << place.Name();
   });
 }
 
