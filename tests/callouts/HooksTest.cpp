@@ -121,8 +121,7 @@ TEST_F(CatalogueInUseTest, ItsEndMaySetAnotherOne) {
 
 TEST_F(CatalogueInUseTest, AFactoryMaySetOneWhoseEndTakesTheNewOneAway) {
   StrategyListData::CreateCatalogueWith([] {
-    StrategyListData::UseCatalogue(
-        CatalogueUpTo(1, WhenItEnds([] { StrategyListData::UseCatalogue(nullptr); })));
+    StrategyListData::UseCatalogue(CatalogueUpTo(1, WhenItEnds([] { StrategyListData::UseCatalogue(nullptr); })));
     return CatalogueUpTo(2);
   });
   EXPECT_EQ(HighestOf(StrategyListData::Catalogue()), 2);

@@ -18,9 +18,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// What containers call, and every drive of a container covers.
-const std::set<std::string> Notifications = {"InitProperties", "ReadProperties", "WriteProperties", "Resized",
-                                             "Displayed",      "GotFocus",       "AmbientChanged",  "Terminated",
-                                             "Properties",     "All"};
+const std::set<std::string> Notifications = {
+    "InitProperties", "ReadProperties", "WriteProperties", "Resized",    "Displayed",
+    "GotFocus",       "AmbientChanged", "Terminated",      "Properties", "All"};
 
 std::string HeaderOf(const std::string& className) {
   for (const fs::directory_entry& file : fs::recursive_directory_iterator(fs::path(TACTIX_SOURCE_DIR) / "tactix")) {

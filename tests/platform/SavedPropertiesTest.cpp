@@ -22,12 +22,14 @@ class SavedPropertiesTest : public testing::Test {
   void ReadTwo(OnFailure onFailure) {
     SavedProperties saved(*control_, bag_, onFailure);
     stillThere_.push_back(saved.Read("A", 1, [this](const Variant& value) { Take(value); }));
-    stillThere_.push_back(saved.Read("B", [this] { return Get(2); }, [this](const Variant& value) { Take(value); }));
+    stillThere_.push_back(saved.Read(
+        "B", [this] { return Get(2); }, [this](const Variant& value) { Take(value); }));
   }
   /// Writes "A" with a default and "B" without one.
   void WriteTwo(OnFailure onFailure) {
     SavedProperties saved(*control_, bag_, onFailure);
-    stillThere_.push_back(saved.Write("A", [this] { return Get(3); }, [this] { return Get(1); }));
+    stillThere_.push_back(saved.Write(
+        "A", [this] { return Get(3); }, [this] { return Get(1); }));
     stillThere_.push_back(saved.Write("B", [this] { return Get(4); }));
   }
   std::int32_t Get(std::int32_t value) {
