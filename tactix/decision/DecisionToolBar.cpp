@@ -101,7 +101,7 @@ void DecisionToolBarControl::ShowTheBarOrItsIdentification() {
   const Weak<DecisionToolBarControl> self(this);
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  if (self) widgets_->DecisionToolBar.Visible(running);
+  widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.
