@@ -21,7 +21,7 @@ class ToolBarInput final : public DecisionInput {
   /// Hidden at first. The letters are the legend's: with it, it gets the focus.
   void ShowLegend(bool shown);
 
-  void Ask(const tactix::DecisionBlock& block) override;
+  void Ask(const tactix::DecisionBlock& block, int turn) override;
   void Rest() override;
   [[nodiscard]] Guesses CollectGuesses() override;
 
