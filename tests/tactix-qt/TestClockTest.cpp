@@ -68,22 +68,17 @@ TEST_F(TestClockTest, ItStandsStillWhereNothingWaits) {
 TEST_F(TestClockTest, WhatElseIsToBeDoneComesFirst) {
   Texts log;
   clock_.After(0, [&log] { log.emplace_back("due"); });
-  const auto post = [&log](const char* what, const std::function<void()>& then) {
-    return [&log, what, then] {
-      log.emplace_back(what);
-      then();
-    };
+  const auto post = [this](std::function<void()> action) {
+    QMetaObject::invokeMethod(&window_.Window(), std::move(action), Qt::QueuedConnection);
   };
-  QMetaObject::invokeMethod(&window_.Window(),
-                            post("first",
-                                 [&] {
-                                   QMetaObject::invokeMethod(&window_.Window(), post("second", [] {}),
-                                                             Qt::QueuedConnection);
-                                   Settle();
-                                 }),
-                            Qt::QueuedConnection);
+  post([&] {
+    post([&log] { log.emplace_back("posted"); });
+    // A loop that does not wait, in one that does.
+    Settle();
+    log.emplace_back("settled");
+  });
   clock_.Wait(1);
-  EXPECT_EQ(log, (Texts{"first", "second", "due"}));
+  EXPECT_EQ(log, (Texts{"posted", "settled", "due"}));
 }
 
 TEST_F(TestClockTest, WaitsNest) {
