@@ -35,6 +35,7 @@ option(TACTIX_TRAINER "Build the blackjack trainer (without Qt: its engine only)
 option(TACTIX_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 set(TACTIX_TEST_ROOMS "platform;shared;strategy;decision;scoring;counting;companion;callouts"
     CACHE STRING "Rooms of the core whose own tests are built; on Qt all are tested")
+option(TACTIX_TEST_SHARDS "Have many tests share a process instead of giving each its own" OFF)
 option(TACTIX_BENCH "Build the benchmarks" OFF)
 option(TACTIX_EXAMPLES "Build the examples" OFF)
 option(TACTIX_LIBCXX "Build against libc++ (Clang only)" OFF)

@@ -36,6 +36,7 @@ void ControlWidget::EndControl() {
 
 void ControlWidget::RetireNatives() {
   setFocusProxy(nullptr);
+  setFocusPolicy(Qt::NoFocus);
   if (RootPeer* root = std::exchange(root_, nullptr)) {
     ReleasePeers(*root);
     Retire(*root);
@@ -66,12 +67,20 @@ void ControlWidget::Host(Control& control) {
   root_->setGeometry(rect());
   MakePeers(extender, *site_, *root_);
   OrderTabs(extender, *root_);
-  setFocusProxy(&FocusEntry(*root_));
+  // Not for Tab, which looks at the proxy's: QWidget::setTabOrder() passes over a widget that has none.
+  setFocusPolicy(Qt::TabFocus);
+  FindFocusEntry();
   root_->setVisible(true);
   if (!extender.Visible()) setVisible(false);
   if (!extender.Enabled()) setEnabled(false);
   setToolTip(ToQt(extender.ToolTipText()));
   updateGeometry();
+}
+
+void ControlWidget::FindFocusEntry() {
+  if (!control_ || !root_) return;
+  QWidget& entry = FocusEntry(control_->Extender(), *root_);
+  if (focusProxy() != &entry) setFocusProxy(&entry);
 }
 
 void ControlWidget::setUserMode(bool running) {

@@ -69,6 +69,7 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   void NotifyUnhandled(const Error& error);
   void ExtenderMoved();
   void AdoptGeometry();
+  void FindFocusEntry();
   void RetireNatives();
 
   std::unique_ptr<QtSite> site_;

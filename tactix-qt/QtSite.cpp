@@ -134,6 +134,8 @@ void QtSite::FocusLeft() {
   focus_.MoveTo(nullptr);
 }
 
+void QtSite::ReachChanged() { widget_.FindFocusEntry(); }
+
 void QtSite::MadeDefault(PushButton& button) {
   const Weak<QtSite> self(this);
   const Weak<PushButton> kept(button);

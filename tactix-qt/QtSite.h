@@ -55,6 +55,8 @@ class TACTIX_QT_EXPORT QtSite final : public Site {
   // For peers: Qt has moved the focus.
   void FocusArrived(Widget& widget);
   void FocusLeft();
+  // For peers: a user can reach a child widget from now on, or no longer.
+  void ReachChanged();
 
  private:
   void ReportArrival();

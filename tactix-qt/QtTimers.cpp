@@ -8,23 +8,38 @@
 
 namespace tactix::qt {
 
+namespace {
+
+TickSource* ticks = nullptr;
+
+}  // namespace
+
+void QtTimers::TicksFrom(TickSource* source) { ticks = source; }
+
+TickSource* QtTimers::Ticks() { return ticks; }
+
 void QtTimers::Start(Timer& timer) {
   Stop(timer);
   // Qt's interval 0 would run without ever sleeping, and a timer ticks until it is disabled.
-  running_.push_back({&timer, startTimer(std::max(timer.Interval(), 1), Qt::PreciseTimer)});
+  const int interval = std::max(timer.Interval(), 1);
+  running_.push_back({&timer, ticks, ticks ? ticks->Start(*this, interval) : startTimer(interval, Qt::PreciseTimer)});
+}
+
+void QtTimers::End(const Running& running) {
+  running.source ? running.source->Stop(running.id) : killTimer(running.id);
 }
 
 void QtTimers::Stop(const Timer& timer) {
   for (auto at = running_.begin(); at != running_.end(); ++at) {
     if (at->timer != &timer) continue;
-    killTimer(at->id);
+    End(*at);
     running_.erase(at);
     return;
   }
 }
 
 void QtTimers::StopAll() {
-  for (const Running& running : running_) killTimer(running.id);
+  for (const Running& running : running_) End(running);
   running_.clear();
 }
 

@@ -72,8 +72,14 @@ void Peer::ShowAll() {
   for (const Aspect aspect : CommonAspects) Update(aspect);
 }
 
+bool Peer::IsTabStop() const { return (native_.focusPolicy() & Qt::TabFocus) != 0; }
+
 void Peer::Changed(Widget&, Aspect aspect) {
-  if (widget_) Update(aspect);
+  if (!widget_) return;
+  // What hears of a focus that has to move may end the control.
+  const Weak<QtSite> site(site_);
+  Update(aspect);
+  if (site && widget_ && (aspect == Aspect::Visible || aspect == Aspect::Enabled)) site_.ReachChanged();
 }
 
 void Peer::Gone(Widget&) { widget_ = nullptr; }

@@ -39,6 +39,9 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   /// The mouse has moved over the native widget, perhaps while an open menu has grabbed the mouse.
   void MouseMoved(const QMouseEvent& event);
 
+  /// Whether Tab stops at the native widget, where a user can reach it.
+  virtual bool IsTabStop() const;
+
   void Changed(Widget& widget, Aspect aspect) final;
   void Gone(Widget& widget) final;
 

@@ -59,7 +59,7 @@ void ListInReadingOrder(const Widget& widget, std::vector<QWidget*>& natives) {
   });
   for (const Widget* child : children) {
     const Peer* const peer = Peer::Of(*child);
-    if (peer && (peer->Native().focusPolicy() & Qt::TabFocus)) natives.push_back(&peer->Native());
+    if (peer && peer->IsTabStop()) natives.push_back(&peer->Native());
     ListInReadingOrder(*child, natives);
   }
 }
@@ -75,10 +75,14 @@ void MakePeers(Widget& widget, QtSite& site, QWidget& native) {
 }
 
 void OrderTabs(const Widget& widget, QWidget& native) {
-  std::vector<QWidget*> natives;
-  if (native.focusPolicy() & Qt::TabFocus) natives.push_back(&native);
+  std::vector<QWidget*> natives = {&native};
   ListInReadingOrder(widget, natives);
+  // Qt leaves alone what follows in a circle, past all that is no stop: where there are no others in the window yet,
+  // the order could begin anywhere.
+  const Qt::FocusPolicy policy = native.focusPolicy();
+  native.setFocusPolicy(Qt::TabFocus);
   for (std::size_t i = 1; i < natives.size(); ++i) QWidget::setTabOrder(natives[i - 1], natives[i]);
+  native.setFocusPolicy(policy);
 }
 
 void ReleasePeers(QWidget& native) {
@@ -88,10 +92,12 @@ void ReleasePeers(QWidget& native) {
   }
 }
 
-QWidget& FocusEntry(QWidget& native) {
+QWidget& FocusEntry(const Widget& control, QWidget& native) {
   if (native.focusPolicy() != Qt::NoFocus) return native;
-  for (QWidget* child : native.findChildren<QWidget*>()) {
-    if ((child->focusPolicy() & Qt::TabFocus) && dynamic_cast<Peer*>(child)) return *child;
+  std::vector<QWidget*> natives;
+  ListInReadingOrder(control, natives);
+  for (QWidget* child : natives) {
+    if (child->isVisibleTo(&native) && child->isEnabledTo(&native)) return *child;
   }
   return native;
 }

@@ -22,8 +22,9 @@ TACTIX_QT_EXPORT void OrderTabs(const Widget& widget, QWidget& native);
 /// Detaches `native` and all native widgets inside it from their child widgets.
 TACTIX_QT_EXPORT void ReleasePeers(QWidget& native);
 
-/// Where the focus goes when a control gets it as a whole: the control itself if it maps keys, else its first child
-/// that a user can reach.
-TACTIX_QT_EXPORT QWidget& FocusEntry(QWidget& native);
+/// Where the focus goes when a control gets it as a whole: its own native widget if it maps keys, else that of its
+/// first child, as one reads, at which Tab would stop; its own again where there is none. Whether the control itself is
+/// shown and enabled does not matter.
+TACTIX_QT_EXPORT QWidget& FocusEntry(const Widget& control, QWidget& native);
 
 }  // namespace tactix::qt

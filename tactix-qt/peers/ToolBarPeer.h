@@ -27,6 +27,9 @@ class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> 
   static QAction* ActionOf(const ToolButton& button);
   static QToolButton* NativeOf(const ToolButton& button);
 
+  /// Also while one of its buttons has the focus, and it stops nothing itself.
+  bool IsTabStop() const override { return true; }
+
  protected:
   void Update(Aspect aspect) override;
   bool eventFilter(QObject* object, QEvent* event) override;

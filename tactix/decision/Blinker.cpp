@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "tactix/decision/Flash.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Site.h"
 #include "tactix/platform/Variant.h"
@@ -11,8 +12,22 @@ namespace tactix {
 
 namespace {
 
-constexpr int Rounds = 4;
-constexpr float HalfRound = 0.2F;
+constexpr float StepSeconds = FlashStep / 1000.0F;
+
+/// Counts a flash as long as it runs, if what counts it still exists then.
+class Counted {
+ public:
+  Counted(const Control& control, int& flashes) : control_(control), flashes_(flashes) { ++flashes_; }
+  ~Counted() {
+    if (control_) --flashes_;
+  }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+
+ private:
+  Weak<const Control> control_;
+  int& flashes_;
+};
 
 /// Shows or enables the element after a failed wait, so that the player is not left without it. Its own error is
 /// ignored: the wait's error reaches the caller.
@@ -59,12 +74,13 @@ bool Blinker::FlashEnabled(const ObjectRef& element) {
 
 bool Blinker::PutOffAndOn(Object& element, std::string_view property) {
   const Weak<Control> control(control_);
-  for (int round = 0; round < Rounds; ++round) {
+  const Counted counted(control_, flashes_);
+  for (std::int32_t round = 0; round < FlashRounds; ++round) {
     for (const bool on : {false, true}) {
       element.Put(property, on);
       if (!control) return false;
       try {
-        if (!Wait(HalfRound)) return false;
+        if (!Wait(StepSeconds)) return false;
       } catch (...) {
         if (control && !on) PutOnQuietly(element, property);
         throw;

@@ -20,13 +20,16 @@ class TACTIX_EXPORT Blinker {
   /// time fails with 380. False when the control has been destroyed meanwhile.
   bool Wait(float seconds);
 
-  /// Four rounds of hidden 0.2 s and shown 0.2 s, then the element becomes the default button. It ends shown even if it
-  /// was hidden before. The element needs the properties "Visible" and "DEFAULT"; null fails with 91. False when the
-  /// control has been destroyed meanwhile.
+  /// Hides and shows the element as tactix/decision/Flash.h says, four rounds of hidden 0.2 s and shown 0.2 s; then it
+  /// becomes the default button. It ends shown even if it was hidden before. The element needs the properties "Visible"
+  /// and "DEFAULT"; null fails with 91. False when the control has been destroyed meanwhile.
   bool Flash(const ObjectRef& element);
   /// Four rounds of disabled 0.2 s and enabled 0.2 s. It ends enabled even if it was disabled before. The element needs
   /// the property "Enabled"; null fails with 91. False when the control has been destroyed meanwhile.
   bool FlashEnabled(const ObjectRef& element);
+
+  /// How many flashes run, one inside the other.
+  int Flashes() const { return flashes_; }
 
  private:
   bool PutOffAndOn(Object& element, std::string_view property);
@@ -34,6 +37,7 @@ class TACTIX_EXPORT Blinker {
   Control& control_;
   Timer& timer_;
   ScopedConnection tick_;
+  int flashes_ = 0;
   bool elapsed_ = false;
 };
 

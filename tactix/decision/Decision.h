@@ -90,6 +90,9 @@ class TACTIX_EXPORT Decision : public Control {
   void HandleAdviceConsiderations();
   /// Four rounds of hidden 0.2 s and shown 0.2 s, then sets "DEFAULT". The object needs "Visible" and "DEFAULT".
   void FlashObject(const ObjectRef& buttonToFlash);
+  /// How many flashes run, one inside the other: that of the advised button, too, before AdviceRequested is raised.
+  /// What the player does while one runs is done with that advice still to come.
+  int FlashesUnderWay() const { return blinker_.Flashes(); }
   /// Waits that many seconds while the user interface goes on running. A negative or non-finite time fails with 380.
   void BlinkTime(float timeAmount);
 

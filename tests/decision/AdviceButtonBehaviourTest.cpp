@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "tactix/decision/AdviceButton.h"
+#include "tactix/decision/Flash.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/Robot.h"
 #include "tests/support/RowName.h"
+#include "tests/support/When.h"
 
 namespace tactix::tests {
 namespace {
@@ -38,6 +40,11 @@ class AdviceButtonBehaviourTest : public testing::Test {
   }
   void OpenTheList() {
     RightClick([this](Menu& menu) { robot_->Choose(menu, Children().mnuSelectStrategy); });
+  }
+  /// Does something as soon as the user sees the button hidden: in the middle of its flash.
+  void WhenHidden(std::function<void()> action) {
+    When(
+        *robot_, [this] { return !robot_->SeesShown(TheButton()); }, std::move(action));
   }
   void Destroy(bool withWindow) {
     if (withWindow) {
@@ -135,11 +142,9 @@ TEST_P(AdviceButtonBlinkTest, TheArrivingFocusMayMakeItBlink) {
   if (GetParam().mode != 0) ChooseBlink(GetParam().mode);
   other.Children.cmdAdviceButton.SetFocus();
   bool wasHidden = false;
-  for (const int at : {50, 100, 150}) {
-    robot_->After(at, [&] { wasHidden = wasHidden || !robot_->SeesShown(TheButton()); });
-  }
+  WhenHidden([&wasHidden] { wasHidden = true; });
   TheButton().SetFocus();
-  robot_->Wait(200);
+  robot_->Wait(FlashDuration);
   EXPECT_EQ(wasHidden, GetParam().blinks);
   EXPECT_EQ(button_->DEFAULT(), GetParam().blinks);
   EXPECT_TRUE(robot_->SeesShown(TheButton()));
@@ -206,7 +211,7 @@ TEST_P(AdviceButtonDestroyTest, WhileTheMenuIsOpen) {
 }
 
 TEST_P(AdviceButtonDestroyTest, InTheMiddleOfAFlash) {
-  robot_->After(250, [this] { DestroyIt(); });
+  WhenHidden([this] { DestroyIt(); });
   button_->FlashObject(TheButton().Handle());
   ExpectGone({});
 }

@@ -167,6 +167,29 @@ TYPED_TEST(BlinkerTest, ASecondFlashRunsInsideTheFirst) {
                         "2700 first Visible=False", "2900 first Visible=True", "3100 first DEFAULT=True"}));
 }
 
+TEST(BlinkerCountTest, TellsHowManyFlashesRun) {
+  HeadlessSite site;
+  auto box = std::make_unique<Decision>(site);
+  std::vector<int> counts;
+  const auto count = [&] { counts.push_back(box->FlashesUnderWay()); };
+  const auto flash = [&] { box->FlashObject(box->Children.HitButton.Handle()); };
+  count();
+  site.After(100, [&] {
+    count();
+    site.After(100, count);
+    flash();
+    count();
+  });
+  flash();
+  count();
+  EXPECT_EQ(counts, (std::vector<int>{0, 1, 2, 1, 0}));
+  const auto broken = std::make_shared<PropertyObject>();
+  EXPECT_EQ(ErrorCodeOf([&] { box->FlashObject(broken); }), 438);
+  EXPECT_EQ(box->FlashesUnderWay(), 0) << "a flash that fails is over";
+  site.After(100, [&] { box.reset(); });
+  flash();
+}
+
 TYPED_TEST(BlinkerTest, AWaitInsideAWaitEndsBoth) {
   std::vector<std::int64_t> ends;
   this->site_->After(100, [&] {

@@ -36,12 +36,9 @@ TEST_P(DecisionAdviceTest, FlashesTheAdvisedButtonAndThenReports) {
                    DefaultPlay(*box_) + ", shown " + std::to_string(ShownPlays(*box_).size()));
   });
   std::string hidden;
-  for (const int at : {50, 100, 150}) {
-    robot_->After(at, [&] {
-      for (const DecisionPlay& play : DecisionPlays) {
-        const bool isNew = hidden.find(play.name) == std::string::npos;
-        if (isNew && !robot_->SeesShown(ButtonOf(play))) hidden += play.name;
-      }
+  for (const DecisionPlay& play : DecisionPlays) {
+    WhenHidden(ButtonOf(play), [&] {
+      hidden += play.name;
       // Both steps come before the flash.
       EXPECT_EQ(FromTheTop(box_->Extender())[0], "AdviceButton");
       EXPECT_EQ(Focused(), "ManualPlayButtons");
@@ -50,7 +47,7 @@ TEST_P(DecisionAdviceTest, FlashesTheAdvisedButtonAndThenReports) {
   robot_->Click(TheAdviceButton());
   EXPECT_EQ(recorder_.Take(), (Texts{"AdviceRequested#1", std::string("top AdviceButton, focus ManualPlayButtons, ") +
                                                               "default " + flashes + ", shown 5"}));
-  robot_->Wait(200);
+  robot_->Wait(FlashDuration);
   EXPECT_EQ(hidden, flashes);
   EXPECT_NE(Children().lblUserControlCaption.Caption(), "") << "asking decides nothing";
 }
@@ -104,11 +101,13 @@ TEST_F(DecisionAdviceBehaviourTest, EnterAsksForAdviceUntilAPlayIsAdvised) {
 
 TEST_F(DecisionAdviceBehaviourTest, TheUserAndTheHostGoOnDuringAFlash) {
   box_->GiveAdvice(1);
-  robot_->After(300, [this] { robot_->Click(Children().StandButton); });
-  robot_->After(500, [this] {
-    box_->SetupTheDecisionBox(DecisionBlock());
-    box_->GiveAdvice(4);
-    recorder_.Note("set up");
+  WhenHidden(Children().HitButton, [this] {
+    robot_->Click(Children().StandButton);
+    WhenShown(Children().HitButton, [this] {
+      box_->SetupTheDecisionBox(DecisionBlock());
+      box_->GiveAdvice(4);
+      recorder_.Note("set up");
+    });
   });
   robot_->Click(TheAdviceButton());
   EXPECT_EQ(recorder_.Take(), (Texts{"PlayerStands#11", "set up", "AdviceRequested#1"}));
@@ -117,13 +116,16 @@ TEST_F(DecisionAdviceBehaviourTest, TheUserAndTheHostGoOnDuringAFlash) {
 
 TEST_F(DecisionAdviceBehaviourTest, ASecondRequestRunsInsideTheFirst) {
   box_->GiveAdvice(1);
-  robot_->After(300, [this] {
+  WhenHidden(Children().HitButton, [this] {
+    EXPECT_EQ(box_->FlashesUnderWay(), 1);
+    WhenHidden(Children().StandButton, [this] { EXPECT_EQ(box_->FlashesUnderWay(), 2); });
     box_->GiveAdvice(2);
     robot_->Click(TheAdviceButton());
     recorder_.Note("second over, default " + DefaultPlay(*box_));
   });
   robot_->Click(TheAdviceButton());
   EXPECT_EQ(recorder_.Take(), (Texts{"AdviceRequested#1", "second over, default Stand", "AdviceRequested#1"}));
+  EXPECT_EQ(box_->FlashesUnderWay(), 0);
   EXPECT_EQ(DefaultPlay(*box_), "Hit");
   EXPECT_EQ(ShownPlays(*box_).size(), 5U);
 }

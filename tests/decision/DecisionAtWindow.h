@@ -9,9 +9,11 @@
 #include <vector>
 
 #include "tactix/decision/Decision.h"
+#include "tactix/decision/Flash.h"
 #include "tests/decision/DecisionStates.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/Robot.h"
+#include "tests/support/When.h"
 
 namespace tactix::tests {
 
@@ -54,6 +56,15 @@ class DecisionAtWindow : public testing::Test {
     robot_->OnNextMenu(
         [this](Menu& menu) { robot_->Choose(menu, Children().AdviceButton.Children.mnuSelectStrategy); });
     robot_->MouseDown(TheAdviceButton(), RightButton, 0);
+  }
+  /// Does something as soon as the user sees a button hidden, or shown: in the middle of its flash.
+  void WhenHidden(const PushButton& button, std::function<void()> action) {
+    When(
+        *robot_, [this, &button] { return !robot_->SeesShown(button); }, std::move(action));
+  }
+  void WhenShown(const PushButton& button, std::function<void()> action) {
+    When(
+        *robot_, [this, &button] { return robot_->SeesShown(button); }, std::move(action));
   }
   void Destroy(bool withWindow) {
     if (withWindow) {

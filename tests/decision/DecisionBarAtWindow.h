@@ -10,10 +10,12 @@
 #include <vector>
 
 #include "tactix/decision/DefaultEdition.h"
+#include "tactix/decision/Flash.h"
 #include "tests/decision/DecisionToolBarFixture.h"
 #include "tests/support/EventRecorder.h"
 #include "tests/support/PropertyObject.h"
 #include "tests/support/Robot.h"
+#include "tests/support/When.h"
 
 namespace tactix::tests {
 
@@ -50,6 +52,15 @@ class DecisionBarAtWindow : public testing::Test {
       if (robot_->SeesPressed(*button)) keys.push_back(button->Key());
     }
     return keys;
+  }
+  /// Does something as soon as the user sees a button off, or on: in the middle of its flash.
+  void WhenOff(std::string_view key, std::function<void()> action) {
+    When(
+        *robot_, [this, key] { return !robot_->SeesEnabled(Button(key)); }, std::move(action));
+  }
+  void WhenOn(std::string_view key, std::function<void()> action) {
+    When(
+        *robot_, [this, key] { return robot_->SeesEnabled(Button(key)); }, std::move(action));
   }
   void Destroy(bool withWindow) {
     if (withWindow) {

@@ -69,10 +69,13 @@ TYPED_TEST(DecisionBarDestroyBehaviourTest, InTheHandlerOfThePrompt) {
 }
 
 TYPED_TEST(DecisionBarDestroyBehaviourTest, InTheMiddleOfTheFlash) {
-  for (const int at : {100, 300}) {
-    this->ExpectItMayGo({}, [this, at](bool withWindow) {
+  for (const bool whileOff : {true, false}) {
+    this->ExpectItMayGo({}, [this, whileOff](bool withWindow) {
       this->Advise(3);
-      this->robot_->After(at, [this, withWindow] { this->Destroy(withWindow); });
+      this->WhenOff("Split", [this, whileOff, withWindow] {
+        const auto destroy = [this, withWindow] { this->Destroy(withWindow); };
+        whileOff ? destroy() : this->WhenOn("Split", destroy);
+      });
       this->Click("Advice");
     });
   }
@@ -81,8 +84,10 @@ TYPED_TEST(DecisionBarDestroyBehaviourTest, InTheMiddleOfTheFlash) {
 TYPED_TEST(DecisionBarDestroyBehaviourTest, InTheMiddleOfAFlashInsideAFlash) {
   this->ExpectItMayGo({}, [this](bool withWindow) {
     this->Advise(3);
-    this->robot_->After(300, [this] { this->Click("Advice"); });
-    this->robot_->After(500, [this, withWindow] { this->Destroy(withWindow); });
+    this->WhenOff("Split", [this, withWindow] {
+      this->WhenOn("Split", [this, withWindow] { this->Destroy(withWindow); });
+      this->Click("Advice");
+    });
     this->Click("Advice");
   });
 }
@@ -98,7 +103,7 @@ TYPED_TEST(DecisionBarDestroyBehaviourTest, InAPlayDuringTheFlash) {
   this->ExpectItMayGo({"StandButtonWasPressed#2"}, [this](bool withWindow) {
     this->Advise(3);
     this->bar_->Events.StandButtonWasPressed.Connect([this, withWindow] { this->Destroy(withWindow); });
-    this->robot_->After(100, [this] { this->Click("Stand"); });
+    this->WhenOff("Split", [this] { this->Click("Stand"); });
     this->Click("Advice");
   });
 }
@@ -138,7 +143,7 @@ TEST_F(DecisionBAR2DestroyBehaviourTest, WithItsMenuOpenDuringTheFlash) {
   ExpectItMayGo({}, [this](bool withWindow) {
     Advise(2);
     robot_->OnNextMenu([this, withWindow](Menu&) { Destroy(withWindow); });
-    robot_->After(300, [this] { robot_->MouseDown(bar_->Extender(), RightButton, 0); });
+    WhenOff("Stand", [this] { robot_->MouseDown(bar_->Extender(), RightButton, 0); });
     Click("Advice");
   });
 }

@@ -144,7 +144,7 @@ TEST_F(DecisionBAR2MenuBehaviourTest, SeparatorsCannotBeChosen) {
 
 TEST_F(DecisionBAR2MenuBehaviourTest, OpensDuringAFlash) {
   Advise(1);
-  robot_->After(300, [this] { Choose(bar_->Children.menuTensRatioButtonsVisible); });
+  WhenOff("Hit", [this] { Choose(bar_->Children.menuTensRatioButtonsVisible); });
   Click("Advice");
   EXPECT_EQ(bar_->TensRatioButtonVisibility(), ButtonsShown);
   EXPECT_TRUE(Button("Hit").Enabled());

@@ -115,14 +115,19 @@ class DecisionMomentTest : public Test, public testing::WithParamInterface<Windo
 };
 
 TEST_P(DecisionMomentTest, InTheMiddleOfTheAdvisedFlash) {
-  robot_->After(300, [this] { DestroyIt(); });
+  box_->GiveAdvice(1);
+  WhenHidden(Children().HitButton, [this] { DestroyIt(); });
   robot_->Click(TheAdviceButton());
   ExpectGone({});
 }
 
 TEST_P(DecisionMomentTest, InTheMiddleOfAFlashInsideAFlash) {
-  robot_->After(300, [this] { robot_->Click(TheAdviceButton()); });
-  robot_->After(500, [this] { DestroyIt(); });
+  box_->GiveAdvice(1);
+  WhenHidden(Children().HitButton, [this] {
+    box_->GiveAdvice(2);
+    WhenHidden(Children().StandButton, [this] { DestroyIt(); });
+    robot_->Click(TheAdviceButton());
+  });
   robot_->Click(TheAdviceButton());
   ExpectGone({});
 }
@@ -136,7 +141,7 @@ TEST_P(DecisionMomentTest, InTheMiddleOfAWaitOfTheHosts) {
 TEST_P(DecisionMomentTest, WhileTheAdviceButtonBlinks) {
   robot_->OnNextMenu([this](Menu& menu) { robot_->Choose(menu, Children().AdviceButton.Children.mnuButtonBlink[2]); });
   robot_->MouseDown(TheAdviceButton(), RightButton, 0);
-  robot_->After(300, [this] { DestroyIt(); });
+  WhenHidden(TheAdviceButton(), [this] { DestroyIt(); });
   box_->HandleAdviceConsiderations();
   ExpectGone({});
 }

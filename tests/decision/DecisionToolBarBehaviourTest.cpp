@@ -180,7 +180,7 @@ TYPED_TEST(DecisionToolBarBehaviourTest, AHiddenOrDisabledControlDoesNotClick) {
 TYPED_TEST(DecisionToolBarBehaviourTest, TheAdvisedPlayIsSeenFlashing) {
   this->Advise(4);
   Texts seen;
-  for (int at = 100; at < 1600; at += 200) {
+  for (int at = FlashStep / 2; at < FlashDuration; at += FlashStep) {
     this->robot_->After(at, [&] { seen.push_back(this->robot_->SeesEnabled(this->Button("Double")) ? "on" : "off"); });
   }
   this->Click("Advice");
@@ -191,19 +191,19 @@ TYPED_TEST(DecisionToolBarBehaviourTest, TheAdvisedPlayIsSeenFlashing) {
 
 TYPED_TEST(DecisionToolBarBehaviourTest, TheAdviceAnswersToTheKeyboard) {
   this->Advise(2);
-  Texts seen;
-  this->robot_->After(100, [&] { seen.push_back(this->robot_->SeesEnabled(this->Button("Stand")) ? "on" : "off"); });
+  bool wasOff = false;
+  this->WhenOff("Stand", [&wasOff] { wasOff = true; });
   this->robot_->PressByKey(this->Button("Advice"));
-  this->robot_->Wait(50);
-  EXPECT_EQ(seen, Texts{"off"});
+  this->robot_->Wait(FlashDuration);
+  EXPECT_TRUE(wasOff);
 }
 
 TYPED_TEST(DecisionToolBarBehaviourTest, ThePlayerMayActDuringAFlash) {
   this->Advise(1);
-  this->robot_->After(100, [this] { this->Click("Hit"); });
-  this->robot_->After(130, [this] { this->Click("Stand"); });
-  this->robot_->After(160, [this] { this->Click("TensRatioLow"); });
-  this->robot_->After(300, [this] { this->Click("Hit"); });
+  this->WhenOff("Hit", [this] {
+    for (const char* key : {"Hit", "Stand", "TensRatioLow"}) this->Click(key);
+    this->WhenOn("Hit", [this] { this->Click("Hit"); });
+  });
   this->Click("Advice");
   EXPECT_EQ(this->recorder_.Take(), (Texts{"StandButtonWasPressed#2", "HitButtonWasPressed#1"}));
   EXPECT_EQ(this->LooksPressed(), Texts{"TensRatioLow"});
@@ -211,7 +211,7 @@ TYPED_TEST(DecisionToolBarBehaviourTest, ThePlayerMayActDuringAFlash) {
 
 TYPED_TEST(DecisionToolBarBehaviourTest, ASecondAdviceFlashesInsideTheFirst) {
   this->Advise(1);
-  this->robot_->After(300, [this] {
+  this->WhenOff("Hit", [this] {
     this->Click("Advice");
     this->recorder_.Note("inner ended");
   });

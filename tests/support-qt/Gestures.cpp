@@ -50,7 +50,7 @@ QPoint& LastPlace() {
 }
 
 bool OpenList(QComboBox& box) {
-  return box.isVisible() && QTest::qWaitFor([&box] { return box.view()->isVisible(); }, 1000);
+  return box.isVisible() && QTest::qWaitFor([&box] { return box.view()->isVisible(); });
 }
 
 void PressIn(QWidget& popUp, Qt::Key key) { PressKey(*popUp.window(), key); }
@@ -209,7 +209,7 @@ void ClickEntry(QMenu& root, const MenuEntry& entry) {
     if (!menu) return;
     ClickAt(*menu, item.center());
     QMenu* const sub = action->menu();
-    if (!sub || !QTest::qWaitFor([sub] { return sub->isVisible(); }, 500)) return;
+    if (!sub || !QTest::qWaitFor([sub] { return sub->isVisible(); })) return;
     menu = sub;
   }
 }

@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 #include <QWidget>
 #include <algorithm>
@@ -17,13 +16,14 @@
 #include "tactix-qt/peers/SpinButtonPeer.h"
 #include "tactix-qt/peers/ToolBarPeer.h"
 #include "tests/support-qt/Gestures.h"
+#include "tests/support-qt/TestClock.h"
 #include "tests/support/Robot.h"
 
 namespace tactix::tests {
 
 namespace {
 
-/// Real widgets in a real window on Qt's offscreen platform.
+/// Real widgets in a real window on Qt's offscreen platform, on a clock of the test's.
 class QtRobot final : public Robot, private QObject {
  public:
   QtRobot() {
@@ -31,8 +31,6 @@ class QtRobot final : public Robot, private QObject {
     qApp->installEventFilter(this);
   }
   ~QtRobot() override {
-    // What they do is the test body's, which has ended.
-    delete pending_;
     qt::QtSite::BeepWith({});
     delete window_;
     Settle();
@@ -170,10 +168,10 @@ class QtRobot final : public Robot, private QObject {
   }
 
   void After(std::int64_t milliseconds, std::function<void()> action) override {
-    QTimer::singleShot(std::chrono::milliseconds(milliseconds), Qt::PreciseTimer, pending_, std::move(action));
+    clock_.After(milliseconds, std::move(action));
   }
 
-  void Wait(std::int64_t milliseconds) override { QTest::qWait(static_cast<int>(milliseconds)); }
+  void Wait(std::int64_t milliseconds) override { clock_.Wait(milliseconds); }
 
   void OnPropertyChanged(std::function<void()> handler) override { onPropertyChanged_ = std::move(handler); }
 
@@ -245,7 +243,8 @@ class QtRobot final : public Robot, private QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* const menu = event->type() == QEvent::Show ? qobject_cast<QMenu*>(object) : nullptr;
     if (menu && !menu->parent()) {
-      QTimer::singleShot(0, this, [this, open = QPointer<QMenu>(menu)] { DriveMenu(open); });
+      const auto drive = [this, open = QPointer<QMenu>(menu)] { DriveMenu(open); };
+      QMetaObject::invokeMethod(this, drive, Qt::QueuedConnection);
     }
     return false;
   }
@@ -306,7 +305,7 @@ class QtRobot final : public Robot, private QObject {
     if (open) LeaveMenu(*open);
   }
 
-  QObject* const pending_ = new QObject(this);  // actions that have yet to run
+  TestClock clock_;
   QPointer<QWidget> window_;
   std::vector<QPointer<qt::ControlWidget>> hosts_;
   std::deque<std::function<void(Menu&)>> scripts_;

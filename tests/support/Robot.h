@@ -63,7 +63,8 @@ class Robot {
   virtual void OnNextMenu(std::function<void(Menu&)> script) = 0;
   /// Inside a menu script: chooses the entry, if the user can.
   virtual void Choose(Menu& menu, MenuEntry& entry) = 0;
-  /// Runs an action that many milliseconds from now, in the middle of a wait too.
+  /// Runs an action that many milliseconds from now, in the middle of a wait too. Time goes on only in waits, as fast
+  /// as what happens in them allows; see also When.
   virtual void After(std::int64_t milliseconds, std::function<void()> action) = 0;
   /// Lets time pass.
   virtual void Wait(std::int64_t milliseconds) = 0;

@@ -3,11 +3,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QMenu>
-#include <QTimer>
 #include <functional>
 #include <tuple>
 
+#include "tests/support-qt/TestClock.h"
 #include "tests/support/RowName.h"
+#include "tests/support/When.h"
 #include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
@@ -15,21 +16,28 @@ namespace {
 
 using Action = std::function<void()>;
 
+struct HasClock {
+  TestClock clock;
+};
+
+/// A host's window on a clock of the test's.
+struct ClockedWindow : HasClock, NativeProbeWindow {};
+
 /// What a user does, and where the host hears of it.
 struct Gesture {
   const char* name;
-  void (*connect)(NativeProbeWindow&, const Action&);
-  void (*perform)(NativeProbeWindow&);
+  void (*connect)(ClockedWindow&, const Action&);
+  void (*perform)(ClockedWindow&);
 };
 
-void Click(NativeProbeWindow& window, const Widget& widget, std::int16_t button = LeftButton) {
+void Click(ClockedWindow& window, const Widget& widget, std::int16_t button = LeftButton) {
   ClickAt(window.Window(), ReachablePlace(*NativeOf(widget)).value(), button);
 }
 
 QComboBox& Box(const ListBox& list) { return *qobject_cast<QComboBox*>(NativeOf(list)); }
 
 template <auto event>
-void ConnectTo(NativeProbeWindow& window, const Action& action) {
+void ConnectTo(ClockedWindow& window, const Action& action) {
   (window.Probe().Events.*event).Connect([action](auto&&...) { action(); });
 }
 
@@ -38,84 +46,84 @@ constexpr auto First = &ConnectTo<&Events::FirstClicked>;
 constexpr auto RowPicked = &ConnectTo<&Events::RowPicked>;
 constexpr auto KeyPressed = &ConnectTo<&Events::KeyPressed>;
 
-void ConnectToNote(NativeProbeWindow& window, const Action& action) {
+void ConnectToNote(ClockedWindow& window, const Action& action) {
   window.Probe().OnNote = [action](const std::string& note) {
     if (note == "outer: GotFocus" || note == "outer: Displayed") action();
   };
 }
 
-void InTheMiddle(NativeProbeWindow& window, const Action& action) { QTimer::singleShot(50, &window.Window(), action); }
+void InTheMiddle(ClockedWindow& window, const Action& action) { window.clock.After(50, action); }
 
 const Gesture Gestures[] = {
-    {"Click", First, [](NativeProbeWindow& window) { Click(window, window.Children().FirstButton); }},
+    {"Click", First, [](ClockedWindow& window) { Click(window, window.Children().FirstButton); }},
     {"Space", First,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().FirstButton.SetFocus();
        PressKey(window.Window(), Qt::Key_Space);
      }},
-    {"AccessKey", First, [](NativeProbeWindow& window) { PressKey(window.Window(), 'F', AltKey); }},
+    {"AccessKey", First, [](ClockedWindow& window) { PressKey(window.Window(), 'F', AltKey); }},
     {"DefaultButton", First,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().FirstButton.DEFAULT(true);
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), Qt::Key_Return);
      }},
     {"DefaultButtonFromTheHost", First,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().FirstButton.DEFAULT(true);
        PressKey(window.Window(), Qt::Key_Return);
      }},
     {"LetterKey", KeyPressed,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().PanelButton.SetFocus();
        PressKey(window.Window(), 'Q');
      }},
     {"LeftPress", ConnectTo<&Events::MouseWasDown>,
-     [](NativeProbeWindow& window) { Click(window, window.Children().ButtonPanel); }},
+     [](ClockedWindow& window) { Click(window, window.Children().ButtonPanel); }},
     {"RightPress", ConnectTo<&Events::MouseWasDown>,
-     [](NativeProbeWindow& window) { Click(window, window.Children().ButtonPanel, RightButton); }},
+     [](ClockedWindow& window) { Click(window, window.Children().ButtonPanel, RightButton); }},
     {"Move", ConnectTo<&Events::MouseWasMoved>,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        MoveTo(window.Window(), ReachablePlace(*NativeOf(window.Children().ButtonPanel)).value());
      }},
-    {"PickByMouse", RowPicked, [](NativeProbeWindow& window) { PickByMouse(Box(window.Children().RowList), 2); }},
+    {"PickByMouse", RowPicked, [](ClockedWindow& window) { PickByMouse(Box(window.Children().RowList), 2); }},
     {"PickByReturn", RowPicked,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().RowList.SetFocus();
        PickByReturn(Box(window.Children().RowList), 2);
      }},
     {"PickByArrow", RowPicked,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), Qt::Key_Down);
      }},
     {"PickByLetter", RowPicked,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Children().RowList.SetFocus();
        PressKey(window.Window(), 'C');
      }},
     {"PickInTheInnerControl",
-     [](NativeProbeWindow& window, const Action& action) {
+     [](ClockedWindow& window, const Action& action) {
        window.Children().Inner.Events.InnerPicked.Connect([action](std::int32_t&) { action(); });
      },
-     [](NativeProbeWindow& window) { PickByMouse(Box(window.Children().Inner.Children.InnerList), 1); }},
-    {"FocusByTab", ConnectToNote, [](NativeProbeWindow& window) { PressKey(window.Window(), Qt::Key_Tab); }},
+     [](ClockedWindow& window) { PickByMouse(Box(window.Children().Inner.Children.InnerList), 1); }},
+    {"FocusByTab", ConnectToNote, [](ClockedWindow& window) { PressKey(window.Window(), Qt::Key_Tab); }},
     {"FocusByMouse", ConnectToNote,
-     [](NativeProbeWindow& window) {
-       ClickAt(window.Window(), window.Itself().geometry().bottomRight() - QPoint(3, 3));
-     }},
+     [](ClockedWindow& window) { ClickAt(window.Window(), window.Itself().geometry().bottomRight() - QPoint(3, 3)); }},
     {"ShownAgain", ConnectToNote,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        window.Itself().hide();
        window.Itself().show();
      }},
-    {"Wait", InTheMiddle, [](NativeProbeWindow& window) { Click(window, window.Children().WaitButton); }},
-    {"OpenMenu", InTheMiddle, [](NativeProbeWindow& window) { Click(window, window.Children().MenuButton); }},
+    {"Wait", InTheMiddle, [](ClockedWindow& window) { Click(window, window.Children().WaitButton); }},
+    {"OpenMenu", InTheMiddle, [](ClockedWindow& window) { Click(window, window.Children().MenuButton); }},
     {"MenuChoice", ConnectTo<&Events::MenuChosen>,
-     [](NativeProbeWindow& window) {
+     [](ClockedWindow& window) {
        Menu& menu = window.Children().ProbeMenu;
        MenuEntry& entry = window.Children().PlainEntry;
-       QTimer::singleShot(50, qApp, [&menu, &entry] { ClickEntry(*OpenMenuOf(menu), entry); });
+       When(
+           window.clock, [&menu] { return OpenMenuOf(menu) != nullptr; },
+           [&menu, &entry] { ClickEntry(*OpenMenuOf(menu), entry); });
        Click(window, window.Children().MenuButton);
      }},
 };
@@ -126,7 +134,7 @@ class QtDestroyTest : public testing::TestWithParam<std::tuple<Gesture, Victim>>
 
 TEST_P(QtDestroyTest, AHandlerMayDestroyIt) {
   const auto& [gesture, victim] = GetParam();
-  NativeProbeWindow window;
+  ClockedWindow window;
   window.Show();
   bool destroyed = false;
   gesture.connect(window, [&, which = victim] {
@@ -157,14 +165,14 @@ INSTANTIATE_TEST_SUITE_P(Gestures, QtDestroyTest,
                          });
 
 TEST(QtDestroyTest, NativeWidgetsOutliveTheirHandlersInNestedLoops) {
-  NativeProbeWindow window;
+  ClockedWindow window;
   window.Show();
   const QPointer<QWidget> button(NativeOf(window.Children().WaitButton));
   bool aliveInTheLoop = false;
-  QTimer::singleShot(20, &window.Window(), [&] {
+  window.clock.After(20, [&] {
     window.Destroy();
     // A loop below the button's own handler, which is still on the stack.
-    QTest::qWait(20);
+    window.clock.Wait(20);
     aliveInTheLoop = !button.isNull();
   });
   Click(window, window.Children().WaitButton);
@@ -198,14 +206,14 @@ TEST(QtDestroyTest, TheControlHearsOfItsEndOnce) {
 }
 
 TEST(QtDestroyTest, NoTimerOfADeadControlTicks) {
-  NativeProbeWindow window;
+  ClockedWindow window;
   window.Show();
   int ticks = 0;
   window.Children().WaitTimer.Tick.Connect([&ticks] { ++ticks; });
   window.Children().WaitTimer.Interval(10);
   window.Children().WaitTimer.Enabled(true);
   window.Destroy();
-  QTest::qWait(50);
+  window.clock.Wait(50);
   EXPECT_EQ(ticks, 0);
 }
 

@@ -4,10 +4,12 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QMenu>
-#include <QTimer>
 #include <string>
 #include <vector>
 
+#include "tactix-qt/AdviceButton.h"
+#include "tactix-qt/DecisionBAR.h"
+#include "tests/support/RowName.h"
 #include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
@@ -156,6 +158,134 @@ TEST_F(QtFocusTest, FocusingTheWidgetFocusesTheControl) {
   window_.Itself().setFocus();
   Settle();
   EXPECT_EQ(Focus(), &window_.Probe().Extender());
+}
+
+// Where the focus of a control that maps no keys itself goes: to what Tab would reach first.
+
+/// An advice button in a host's window.
+struct AdviceAtHost {
+  AdviceAtHost() {
+    widget.resize(160, 60);
+    window.show();
+    window.activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(&window));
+    Settle();
+  }
+  PushButton& Button() { return widget.control().Children.cmdAdviceButton; }
+  Extender& List() { return widget.control().Children.StrategyListBox.Extender(); }
+  QWidget* ListBox() { return NativeOf(widget.control().Children.StrategyListBox.Children.StrategyListBox); }
+  void OpenTheList() { widget.control().Children.mnuSelectStrategy.Chosen.Raise(); }
+
+  QWidget window;
+  qt::AdviceButton widget{&window};
+};
+
+enum class Entry { Button, List, Control };
+
+struct EntryRow {
+  const char* name;
+  void (*prepare)(AdviceAtHost&);
+  Entry entry;
+};
+
+class QtFocusEntryTest : public testing::TestWithParam<EntryRow> {};
+
+TEST_P(QtFocusEntryTest, IsTheFirstChildThatAUserCanReach) {
+  AdviceAtHost host;
+  host.widget.control().Children.StrategyListBox.AddItem("Zero");
+  GetParam().prepare(host);
+  QWidget* const expected = GetParam().entry == Entry::Button ? NativeOf(host.Button())
+                            : GetParam().entry == Entry::List ? host.ListBox()
+                                                              : NativeOf(host.widget.control().Extender());
+  EXPECT_EQ(host.widget.focusProxy(), expected);
+  host.window.setFocus();
+  host.widget.setFocus();
+  Settle();
+  EXPECT_EQ(QApplication::focusWidget(), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, QtFocusEntryTest,
+    testing::Values(EntryRow{"AtFirst", [](AdviceAtHost&) {}, Entry::Button},
+                    EntryRow{"WithTheListOpen", [](AdviceAtHost& host) { host.OpenTheList(); }, Entry::Button},
+                    EntryRow{"WithTheListOpenAndTheButtonDisabled",
+                             [](AdviceAtHost& host) {
+                               host.OpenTheList();
+                               host.Button().Enabled(false);
+                             },
+                             Entry::List},
+                    EntryRow{"WithTheButtonDisabledBeforeTheListOpens",
+                             [](AdviceAtHost& host) {
+                               host.Button().Enabled(false);
+                               host.OpenTheList();
+                             },
+                             Entry::List},
+                    EntryRow{"WithTheListDisabledToo",
+                             [](AdviceAtHost& host) {
+                               host.OpenTheList();
+                               host.Button().Enabled(false);
+                               host.List().Enabled(false);
+                             },
+                             Entry::Control},
+                    EntryRow{"WithTheButtonHidden", [](AdviceAtHost& host) { host.Button().Visible(false); },
+                             Entry::Control},
+                    EntryRow{"WithTheButtonShownAgain",
+                             [](AdviceAtHost& host) {
+                               host.Button().Visible(false);
+                               host.Button().Visible(true);
+                             },
+                             Entry::Button},
+                    EntryRow{"WithTheWholeHiddenAndShownAgain",
+                             [](AdviceAtHost& host) {
+                               host.widget.hide();
+                               host.Button().Enabled(false);
+                               host.Button().Enabled(true);
+                               host.widget.show();
+                             },
+                             Entry::Button},
+                    EntryRow{"WithTheWholeDisabledAndEnabledAgain",
+                             [](AdviceAtHost& host) {
+                               host.widget.setEnabled(false);
+                               host.OpenTheList();
+                               host.widget.setEnabled(true);
+                             },
+                             Entry::Button}),
+    RowName());
+
+TEST(QtFocusEntryTest, IsAToolBarEvenWhileOneOfItsButtonsHasTheFocus) {
+  qt::DecisionBAR bar;
+  QWidget* const strip = NativeOf(bar.control().Children.DecisionToolBar);
+  bar.show();
+  bar.activateWindow();
+  static_cast<void>(QTest::qWaitForWindowActive(&bar));
+  ASSERT_EQ(bar.focusProxy(), strip);
+  bar.setFocus();
+  ASSERT_TRUE(strip->isAncestorOf(QApplication::focusWidget()));
+  bar.control().Children.DecisionBAR_ID.Visible(true);
+  EXPECT_EQ(bar.focusProxy(), strip);
+}
+
+TEST(QtFocusEntryTest, LeavesTheTabKeyItsOrder) {
+  AdviceAtHost host;
+  QWidget before(&host.window);
+  QWidget after(&host.window);
+  for (QWidget* widget : {&before, &after}) {
+    widget->setFocusPolicy(Qt::StrongFocus);
+    widget->show();
+  }
+  QWidget::setTabOrder(&before, &host.widget);
+  QWidget::setTabOrder(&host.widget, &after);
+  host.OpenTheList();
+  host.Button().Enabled(false);
+  host.Button().Enabled(true);
+  before.setFocus();
+  std::vector<QWidget*> reached;
+  for (int i = 0; i < 3; ++i) {
+    PressKey(host.window, Qt::Key_Tab);
+    Settle();
+    reached.push_back(QApplication::focusWidget());
+  }
+  EXPECT_EQ(reached, (std::vector<QWidget*>{NativeOf(host.Button()), host.ListBox(), &after}));
 }
 
 TEST_F(QtFocusTest, TheMenuKeyIsARightPress) {

@@ -2,13 +2,14 @@
 
 #include <QApplication>
 #include <QMenu>
-#include <QTimer>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "tactix-qt/MenuPopUp.h"
+#include "tests/support-qt/TestClock.h"
 #include "tests/support/RowName.h"
+#include "tests/support/When.h"
 #include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
@@ -20,17 +21,26 @@ class QtMenuTest : public testing::Test {
  protected:
   QtMenuTest() { window_.Show(); }
 
-  /// Opens the menu and runs the script while it is open.
+  /// Opens the menu and runs the script while it is open. Leaves it where the script has not, or it would stay open.
   void Open(const std::function<void(QMenu&)>& script) {
-    QTimer::singleShot(20, &window_.Window(), [this, script] {
-      QMenu* const open = OpenMenuOf(children_.ProbeMenu);
-      ASSERT_NE(open, nullptr);
-      script(*open);
+    bool wasOpen = false;
+    WhenOpen(children_.ProbeMenu, [&wasOpen, &script](QMenu& open) {
+      wasOpen = true;
+      const QPointer<QMenu> still(&open);
+      script(open);
+      if (still) LeaveMenu(*still);
     });
     ClickAt(window_.Window(), ReachablePlace(*NativeOf(children_.MenuButton)).value());
     Settle();
+    EXPECT_TRUE(wasOpen);
+  }
+  void WhenOpen(const Menu& menu, std::function<void(QMenu&)> script) {
+    When(
+        clock_, [&menu] { return OpenMenuOf(menu) != nullptr; },
+        [&menu, script = std::move(script)] { script(*OpenMenuOf(menu)); });
   }
 
+  TestClock clock_;
   NativeProbeWindow window_;
   OuterProbe::ChildWidgets& children_ = window_.Children();
 };
@@ -47,7 +57,6 @@ TEST_F(QtMenuTest, ShowsItsEntries) {
       if (!action->isEnabled()) entries.back() += " disabled";
       if (action->menu()) entries.back() += " opens " + action->menu()->actions().value(0)->text().toStdString();
     }
-    LeaveMenu(menu);
   });
   EXPECT_EQ(entries, (Texts{"&Plain", "&Checked checked", "&Disabled disabled", "-", "&More opens D&eep"}));
   // 200 by 300 twips.
@@ -63,11 +72,7 @@ struct ChoiceRow {
 class QtMenuChoiceTest : public QtMenuTest, public testing::WithParamInterface<ChoiceRow> {};
 
 TEST_P(QtMenuChoiceTest, RunsTheHandlerBeforeThePopUpReturns) {
-  Open([this](QMenu& menu) {
-    const QPointer<QMenu> open(&menu);
-    ClickEntry(menu, children_.*GetParam().entry);
-    if (open) LeaveMenu(*open);
-  });
+  Open([this](QMenu& menu) { ClickEntry(menu, children_.*GetParam().entry); });
   EXPECT_EQ(window_.Recorder().Take(), GetParam().events);
   EXPECT_FALSE(children_.ProbeMenu.IsOpen());
 }
@@ -96,16 +101,12 @@ TEST_F(QtMenuTest, MouseMovesOverTheControlStillReachIt) {
     const QPoint beyond = panel.mapToGlobal(panel.rect().bottomRight() - QPoint(4, 4));
     ASSERT_FALSE(menu.geometry().contains(beyond));
     MoveTo(window_.Window(), window_.Window().mapFromGlobal(beyond), CtrlKey);
-    LeaveMenu(menu);
   });
   EXPECT_EQ(window_.Recorder().Take(), (Texts{"MouseWasMoved#11(0, 2)", "MenuClosed#6"}));
 }
 
 TEST_F(QtMenuTest, MouseMovesOverTheMenuDoNotReachWhatIsUnderIt) {
-  Open([](QMenu& menu) {
-    MoveTo(menu, menu.rect().center());
-    LeaveMenu(menu);
-  });
+  Open([](QMenu& menu) { MoveTo(menu, menu.rect().center()); });
   EXPECT_EQ(window_.Recorder().Take(), Texts{"MenuClosed#6"});
 }
 
@@ -116,10 +117,10 @@ TEST_F(QtMenuTest, ASecondOneClosesTheFirstWhichReturnsLast) {
   entry.Chosen.Connect([this] { window_.Recorder().Note("entry"); });
   Open([&](QMenu& menu) {
     const QPointer<QMenu> first(&menu);
-    QTimer::singleShot(20, &window_.Window(), [&] {
+    WhenOpen(second, [&, first](QMenu& open) {
       EXPECT_FALSE(first && first->isVisible());
       EXPECT_FALSE(children_.ProbeMenu.IsOpen());
-      ClickEntry(*OpenMenuOf(second), entry);
+      ClickEntry(open, entry);
     });
     window_.Itself().ItsSite().PopUp(second, window_.Probe().Extender(), 0, 0);
     window_.Recorder().Note("second returned");

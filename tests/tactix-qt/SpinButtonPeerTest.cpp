@@ -24,8 +24,9 @@ namespace {
 class QtSpinTest : public testing::Test {
  protected:
   static constexpr int OneMinute = 60000;
-  static constexpr int Delay = 100;  // milliseconds
-  static constexpr int Interval = 40;
+  static constexpr int Delay = 20;  // milliseconds
+  static constexpr int LongDelay = 100;
+  static constexpr int Interval = 10;
 
   QtSpinTest() {
     counter_->control().Events.CounterValueHasChanged.Connect([this](const std::int16_t& value) {
@@ -168,9 +169,10 @@ TEST_F(QtSpinTest, AReleaseThatADialogHasTakenEndsTheHolding) {
     static_cast<void>(QTest::qWaitForWindowExposed(&dialog));
     QTest::mouseRelease(dialog.windowHandle(), Qt::LeftButton, {}, {5, 5});
   };
-  HoldAfter(Delay);
+  // Time enough for the dialog.
+  HoldAfter(LongDelay);
   Press(Pair().UpButton());
-  QTest::qWait(Delay + 4 * Interval);
+  QTest::qWait(LongDelay + 4 * Interval);
   EXPECT_EQ(steps_, 1);
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "tactix/decision/Flash.h"
 #include "tests/tactix-qt/NativeProbeWindow.h"
 
 namespace tactix::tests {
@@ -15,6 +16,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+/// By the clock on the wall, as for users; most tests have a TestClock.
 class QtWaitTest : public testing::Test {
  protected:
   QtWaitTest() { window_.Show(); }
@@ -29,15 +31,15 @@ TEST_F(QtWaitTest, SleepsWhileItWaits) {
   QElapsedTimer elapsed;
   elapsed.start();
   const double before = ProcessMilliseconds();
-  for (int i = 0; i < 8; ++i) {
+  for (int i = 0; i < 2 * FlashRounds; ++i) {
     window_.Children().FirstButton.Visible(i % 2 == 1);
-    probe_.WaitFor(200);
+    probe_.WaitFor(FlashStep);
   }
   const double used = ProcessMilliseconds() - before;
-  EXPECT_GE(elapsed.elapsed(), 1590);
+  EXPECT_GE(elapsed.elapsed(), FlashDuration - 10);
 #if !defined(__SANITIZE_ADDRESS__)
   // 1 % of a core.
-  EXPECT_LT(used, 16);
+  EXPECT_LT(used, FlashDuration / 100);
 #else
   static_cast<void>(used);
 #endif
@@ -48,7 +50,8 @@ TEST_F(QtWaitTest, EndsOnTime) {
   elapsed.start();
   probe_.WaitFor(200);
   EXPECT_GE(elapsed.elapsed(), 199);
-  EXPECT_LT(elapsed.elapsed(), 400);
+  // Far more than any machine is late.
+  EXPECT_LT(elapsed.elapsed(), 30000);
 }
 
 TEST_F(QtWaitTest, OfNothingEndsWithTheNextTick) {
@@ -91,10 +94,10 @@ TEST_F(QtWaitTest, InADialogLoopOfTheHostItStillSleeps) {
 TEST_F(QtWaitTest, EndsWhenTheApplicationQuits) {
   QElapsedTimer elapsed;
   elapsed.start();
-  QTimer::singleShot(10, &window_.Window(), [this] { probe_.WaitFor(5000); });
+  QTimer::singleShot(10, &window_.Window(), [this] { probe_.WaitFor(60000); });
   QTimer::singleShot(60, qApp, [] { QCoreApplication::exit(7); });
   EXPECT_EQ(QApplication::exec(), 7);
-  EXPECT_LT(elapsed.elapsed(), 3000);
+  EXPECT_LT(elapsed.elapsed(), 30000);
 }
 
 TEST_F(QtWaitTest, ATimerTicksUntilItIsDisabled) {
@@ -103,9 +106,14 @@ TEST_F(QtWaitTest, ATimerTicksUntilItIsDisabled) {
   timer.Tick.Connect([&] {
     if (++ticks == 3) timer.Enabled(false);
   });
-  timer.Interval(10);
-  timer.Enabled(true);
-  QTest::qWait(150);
+  int others = 0;
+  Timer other(window_.Itself().ItsSite());
+  other.Tick.Connect([&others] { ++others; });
+  for (Timer* each : {&timer, &other}) {
+    each->Interval(10);
+    each->Enabled(true);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&others] { return others >= 8; }, 60000));
   EXPECT_EQ(ticks, 3);
 }
 

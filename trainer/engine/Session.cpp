@@ -34,6 +34,7 @@ void Session::Deal() {
   isCounted_ = false;
   isInRun_ = true;
   round_.emplace(rules_, shoe_, std::vector<Money>{bet_});
+  ++turn_;
   CountIfOver();
 }
 
@@ -65,6 +66,7 @@ std::optional<Judgement> Session::Decide(Decision decision) {
   Judgement judgement{Advised(), decision, std::nullopt, std::nullopt};
   const HandPlace place = round_->ActivePlace();
   round_->Play(decision);
+  ++turn_;
   if (decision == Decision::Hit || decision == Decision::Double) {
     judgement.hitCardPrediction =
         predictions_.SeeHitCard(round_->HandsOf(place.seat)[place.hand].hand.Cards().back().rank);

@@ -53,6 +53,10 @@ class Session {
   /// Throws std::logic_error before the first deal.
   [[nodiscard]] const Round& CurrentRound() const;
 
+  /// Which decision is to be made: a number that changes with every deal and every decision and never comes back. 0
+  /// before the first deal.
+  [[nodiscard]] int Turn() const { return turn_; }
+
   /// The bet on each hand from the next round on. Throws std::invalid_argument for a bet that Round refuses.
   void Bet(Money bet);
   [[nodiscard]] Money CurrentBet() const { return bet_; }
@@ -108,6 +112,7 @@ class Session {
   bool isInRun_ = true;  // whether the current round counts for the run
   DealerRecord dealer_;
   int roundsAhead_ = 0;
+  int turn_ = 0;
   bool isCounted_ = false;
 };
 

@@ -47,13 +47,33 @@ BoxInput::BoxInput(QWidget* parent) : DecisionInput(parent), box_(new tactix::qt
   connect(box_, &Decision::TensRatioHiPrediction, this, [this] { Q_EMIT TensRatioPredicted(true); });
   connect(box_, &Decision::TensRatioLoPrediction, this, [this] { Q_EMIT TensRatioPredicted(false); });
 
-  connect(box_, &Decision::AdviceRequested, this, &DecisionInput::Advised);
+  connect(box_, &Decision::AdviceRequested, this, [this] { Q_EMIT Advised(TakeTurnOfAdvice()); });
   connect(box_, &Decision::EvaluationStrategySelected, this, &DecisionInput::StrategyPicked);
   connect(box_, &Decision::BurnACardRequested, this, &DecisionInput::BurnAsked);
   connect(box_, &Decision::PlugHandCardsInClipboard, this, &DecisionInput::CopyAsked);
 }
 
-void BoxInput::Ask(const tactix::DecisionBlock& block) { box_->SetupTheDecisionBox(block); }
+void BoxInput::Ask(const tactix::DecisionBlock& block, int turn) {
+  BeginTurn(turn);
+  box_->SetupTheDecisionBox(block);
+}
+
+void BoxInput::BeginTurn(int turn) {
+  if (turn == turn_) return;
+  // What flashes now was asked for before.
+  const auto running = static_cast<std::size_t>(box_->control().FlashesUnderWay());
+  askedIn_.resize(running, turn_);
+  turn_ = turn;
+}
+
+int BoxInput::TakeTurnOfAdvice() {
+  // Those that still run are around the one that has ended.
+  const auto around = static_cast<std::size_t>(box_->control().FlashesUnderWay());
+  if (around >= askedIn_.size()) return turn_;
+  const int turn = askedIn_[around];
+  askedIn_.resize(around);
+  return turn;
+}
 
 void BoxInput::Rest() { box_->GiveAdvice(NoAdvice); }
 

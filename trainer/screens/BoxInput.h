@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "tactix-qt/Decision.h"
 #include "trainer/screens/DecisionInput.h"
 
@@ -14,12 +16,17 @@ class BoxInput final : public DecisionInput {
 
   tactix::qt::Decision& Box() { return *box_; }
 
-  void Ask(const tactix::DecisionBlock& block) override;
+  void Ask(const tactix::DecisionBlock& block, int turn) override;
   void Rest() override;
   void NameStrategy(const QString& name) override;
 
  private:
+  void BeginTurn(int turn);
+  int TakeTurnOfAdvice();
+
   tactix::qt::Decision* box_;
+  int turn_ = 0;
+  std::vector<int> askedIn_;  // the turns of the flashes that run, the outermost first, as far as those are over
 };
 
 }  // namespace trainer::screens

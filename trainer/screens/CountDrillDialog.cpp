@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cstdlib>
 
@@ -60,6 +61,7 @@ CountDrillDialog::CountDrillDialog(const engine::CountSystem& system, int decks,
       system_(system),
       decks_(decks),
       seed_(seed),
+      timer_(new QTimer(this)),
       card_(new CardView(this)),
       progress_(new QLabel(this)),
       result_(new QLabel(this)) {
@@ -81,7 +83,8 @@ CountDrillDialog::CountDrillDialog(const engine::CountSystem& system, int decks,
   column->addWidget(result_);
 
   result_->setText(QStringLiteral("Count the cards as they come."));
-  connect(&timer_, &QTimer::timeout, this, &CountDrillDialog::DealOne);
+  timer_->setObjectName(QStringLiteral("DrillTimer"));
+  connect(timer_, &QTimer::timeout, this, &CountDrillDialog::DealOne);
 }
 
 QWidget* CountDrillDialog::MakeSettings() {
@@ -104,7 +107,8 @@ QWidget* CountDrillDialog::MakeSettings() {
   form->addRow(start_);
   connect(start_, &QPushButton::clicked, this, &CountDrillDialog::Start);
   // A new speed holds from the next card on.
-  connect(speed_, &QComboBox::currentIndexChanged, this, [this] { timer_.setInterval(speed_->currentData().toInt()); });
+  connect(speed_, &QComboBox::currentIndexChanged, this,
+          [this] { timer_->setInterval(speed_->currentData().toInt()); });
   return settings;
 }
 
@@ -142,7 +146,7 @@ void CountDrillDialog::Start() {
   start_->setText(QStringLiteral("&Deal again"));
   result_->setText(begin == 0 ? QStringLiteral("Count from 0.")
                               : QStringLiteral("This system begins at %1.").arg(begin));
-  timer_.start(speed_->currentData().toInt());
+  timer_->start(speed_->currentData().toInt());
   DealOne();
 }
 
@@ -153,7 +157,7 @@ void CountDrillDialog::DealOne() {
 }
 
 void CountDrillDialog::AskForTheCount() {
-  timer_.stop();
+  timer_->stop();
   card_->Show(std::nullopt);
   answer_->setEnabled(true);
   check_->setEnabled(true);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <cstdint>
 #include <optional>
 
@@ -10,6 +9,7 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QTimer;
 
 namespace tactix::qt {
 class SpinCounter;
@@ -45,7 +45,7 @@ class CountDrillDialog : public QDialog {
   int decks_;
   std::uint64_t seed_;
   std::optional<engine::CountDrill> drill_;
-  QTimer timer_;
+  QTimer* timer_;
   CardView* card_;
   QComboBox* speed_;
   QComboBox* length_;

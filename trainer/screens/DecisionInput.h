@@ -29,8 +29,8 @@ class DecisionInput : public QWidget {
  public:
   using QWidget::QWidget;
 
-  /// Offers the plays that the block allows.
-  virtual void Ask(const tactix::DecisionBlock& block) = 0;
+  /// Offers the plays that the block allows. The turn is the session's, as Advised reports it.
+  virtual void Ask(const tactix::DecisionBlock& block, int turn) = 0;
   /// Nothing is to be decided: any play deals the next hand.
   virtual void Rest() = 0;
   /// Names the strategy that gives the advice.
@@ -40,8 +40,8 @@ class DecisionInput : public QWidget {
 
  Q_SIGNALS:
   void Played(engine::Decision decision);
-  /// The advised play has been flashed.
-  void Advised();
+  /// The advised play of a turn has been flashed. The player may have played on meanwhile.
+  void Advised(int turn);
   void StrategyPicked(int number);
   void BurnAsked();
   void CopyAsked();

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 #include <iomanip>
 #include <ostream>
@@ -25,7 +26,6 @@ constexpr int AdviceEvery = 9;    // decisions
 constexpr int MostAdvice = 5;     // how often it asks: each time takes as long as the button flashes
 constexpr int HitCardEvery = 4;   // decisions, if it is a hit
 constexpr int HoleCardEvery = 6;  // decisions
-constexpr int MidFlash = 500;     // ms into an advice flash: the button is hidden for the second time
 constexpr int MenuPause = 10;     // ms between looks for the open menu
 
 struct PlayInput {
@@ -40,6 +40,11 @@ constexpr std::array<PlayInput, 5> PlayInputs = {{
     {engine::Decision::Double, Qt::Key_D, "DoubleButton"},
     {engine::Decision::Surrender, Qt::Key_G, "SurrenderButton"},
 }};
+
+const PlayInput& InputOf(engine::Decision decision) {
+  return *std::find_if(PlayInputs.begin(), PlayInputs.end(),
+                       [decision](const PlayInput& input) { return input.decision == decision; });
+}
 
 void SendMouse(QWidget& widget, QEvent::Type type, Qt::KeyboardModifiers modifiers) {
   const QPointF at = QRectF(widget.rect()).center();
@@ -121,9 +126,20 @@ void Demo::PlayOneDecision() {
 }
 
 void Demo::AskForAdvice() {
-  QTimer::singleShot(MidFlash, this, [this] { Snapshot(QStringLiteral("flash")); });
+  QWidget& advised = Find(InputOf(window_.CurrentSession().Advised()).button);
+  advised.installEventFilter(this);
   Click(Find("cmdAdviceButton"));
+  advised.removeEventFilter(this);
   Snapshot(QStringLiteral("advice"));
+}
+
+bool Demo::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Hide) {
+    // Later: the window is still busy with hiding it.
+    QMetaObject::invokeMethod(
+        this, [this] { Snapshot(QStringLiteral("flash")); }, Qt::QueuedConnection);
+  }
+  return QObject::eventFilter(object, event);
 }
 
 void Demo::PredictTheHoleCard() {
@@ -147,14 +163,12 @@ engine::Decision Demo::Choose() {
 }
 
 void Demo::Press(engine::Decision decision) {
-  for (const PlayInput& input : PlayInputs) {
-    if (input.decision != decision) continue;
-    const bool predicts = decision == engine::Decision::Hit && decisions_ % HitCardEvery == 0;
-    if (predicts || decisions_ % 2 == 0) {
-      Click(Find(input.button), predicts ? Qt::ShiftModifier : Qt::NoModifier);
-    } else {
-      PressKey(window_, input.key);
-    }
+  const PlayInput& input = InputOf(decision);
+  const bool predicts = decision == engine::Decision::Hit && decisions_ % HitCardEvery == 0;
+  if (predicts || decisions_ % 2 == 0) {
+    Click(Find(input.button), predicts ? Qt::ShiftModifier : Qt::NoModifier);
+  } else {
+    PressKey(window_, input.key);
   }
 }
 

@@ -30,6 +30,9 @@ class Demo : public QObject {
   /// False when a picture could not be written.
   bool Run();
 
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  private:
   void PlayOneDecision();
   void AskForAdvice();

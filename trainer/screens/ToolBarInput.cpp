@@ -92,7 +92,7 @@ void ToolBarInput::ShowLegend(bool shown) {
   setFocusProxy(shown ? static_cast<QWidget*>(legend_) : bar_);
 }
 
-void ToolBarInput::Ask(const tactix::DecisionBlock& block) {
+void ToolBarInput::Ask(const tactix::DecisionBlock& block, int /*turn*/) {
   resting_ = false;
   bar_->SetupTheDecisionBAR(block);
 }

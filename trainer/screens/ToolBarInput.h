@@ -21,7 +21,7 @@ class ToolBarInput final : public DecisionInput {
   /// Hidden at first. While it is shown it gets the focus, because it takes the letter keys.
   void ShowLegend(bool shown);
 
-  void Ask(const tactix::DecisionBlock& block) override;
+  void Ask(const tactix::DecisionBlock& block, int turn) override;
   void Rest() override;
   [[nodiscard]] Guesses CollectGuesses() override;
 

@@ -33,8 +33,6 @@ constexpr QSize FirstSize(1000, 900);
 constexpr int FirstCountSystem = 21;
 constexpr int FlatBet = 0;
 constexpr engine::Money BetUnit = 1000;
-/// A little less than the time for which an advised button flashes.
-constexpr qint64 FlashMilliseconds = 1500;
 
 using tactix::companion::IniStrategyCatalogue;
 
@@ -190,14 +188,11 @@ void TrainerWindow::Deal() {
 }
 
 /// Waits for a decision, or between rounds for any play.
-void TrainerWindow::Expect() {
-  sinceHandWasShown_.start();
-  session_.IsOver() ? input_->Rest() : Ask();
-}
+void TrainerWindow::Expect() { session_.IsOver() ? input_->Rest() : Ask(); }
 
 void TrainerWindow::Ask() {
   FillBlock(session_, block_);
-  input_->Ask(block_);
+  input_->Ask(block_, session_.Turn());
 }
 
 void TrainerWindow::Decide(engine::Decision decision) {
@@ -290,9 +285,9 @@ void TrainerWindow::ShowStatistics() {
                          .arg(seen[3])));
 }
 
-void TrainerWindow::SayAdvice() {
+void TrainerWindow::SayAdvice(int turn) {
   // The player may have played on while the button flashed; advice for the next hand was not asked for.
-  if (session_.IsOver() || sinceHandWasShown_.elapsed() < FlashMilliseconds) return;
+  if (session_.IsOver() || turn != session_.Turn()) return;
   const engine::Round& round = session_.CurrentRound();
   const QString by = strategy_.isEmpty() ? QString() : QStringLiteral(" by ") + strategy_;
   ShowTable(

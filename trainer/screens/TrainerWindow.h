@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QString>
 #include <memory>
@@ -78,7 +77,7 @@ class TrainerWindow : public QMainWindow {
   void PredictTensRatio(bool high);
   QString TakeGuesses(const Guesses& guesses);
   void ShowStatistics();
-  void SayAdvice();
+  void SayAdvice(int turn);
   void Burn();
   void CopyHand();
   void FollowStrategy(int number);
@@ -93,7 +92,6 @@ class TrainerWindow : public QMainWindow {
   tactix::DecisionBlock block_;
   std::optional<int> followed_;  // the strategy that the player has picked
   QString strategy_;             // its caption
-  QElapsedTimer sinceHandWasShown_;
   TableView* table_;
   ScoreBar* score_;
   Scoreboard* board_;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -57,6 +58,28 @@ TEST(SessionTest, JudgesBySomeStrategyAndCounts) {
   EXPECT_EQ(session.CurrentTally().decisions, 2);
   EXPECT_EQ(session.CurrentTally().correct, 1);
   EXPECT_DOUBLE_EQ(session.CurrentTally().CorrectPercent(), 50.0);
+}
+
+TEST(SessionTest, EveryDecisionHasATurnOfItsOwn) {
+  Session session({}, 3);
+  EXPECT_EQ(session.Turn(), 0);
+  std::set<int> turns = {session.Turn()};
+  const auto expectANewOne = [&] { EXPECT_TRUE(turns.insert(session.Turn()).second) << session.Turn(); };
+  for (int round = 0; round < 20; ++round) {
+    session.Deal();
+    expectANewOne();
+    while (!session.IsOver()) {
+      const int turn = session.Turn();
+      if (!session.CurrentRound().Legal().Allows(Decision::Split)) session.Decide(Decision::Split);
+      session.Burn();
+      session.Follow(std::make_shared<BasicStrategy>());
+      EXPECT_EQ(session.Turn(), turn) << "nothing has been decided";
+      session.Decide(session.Advised());
+      expectANewOne();
+    }
+  }
+  session.Deal();
+  expectANewOne();
 }
 
 TEST(SessionTest, RefusesWhatIsNotLegalAndChangesNothing) {

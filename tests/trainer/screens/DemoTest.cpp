@@ -14,7 +14,9 @@
 
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
+#include "tests/support-qt/TestClock.h"
 #include "tests/trainer/screens/Pictures.h"
+#include "trainer/screens/TableView.h"
 
 namespace trainer::screens {
 namespace {
@@ -34,9 +36,12 @@ struct Played {
 };
 
 Played Play(const DemoOptions& options) {
+  const tactix::tests::TestClock clock;
   const auto catalogue = std::make_shared<tactix::companion::IniStrategyCatalogue>(
       tactix::companion::DefaultStrategies(), tactix::companion::DefaultStrategiesName);
   TrainerWindow window(engine::Session({}, options.seed), catalogue);
+  // Nobody looks.
+  if (options.snapshotFolder.isEmpty()) window.Table().setUpdatesEnabled(false);
   std::ostringstream out;
   Played played;
   played.picturesWritten = Demo(window, options, out).Run();

@@ -1,16 +1,15 @@
+#include "tactix/decision/Flash.h"
 #include "tests/trainer/screens/TrainerAtWork.h"
 
 namespace trainer::screens {
 namespace {
-
-constexpr int FlashTime = 1600;
 
 using TrainerAdviceTest = TrainerAtWork;
 
 TEST_F(TrainerAdviceTest, AdviceComesAfterTheFlash) {
   OpenAt(IsStiff);
   bool hidden = false;
-  QTimer::singleShot(100, window_.get(), [&] { hidden = !Find<QPushButton>("HitButton").isVisible(); });
+  WhenHidden("HitButton", [&hidden] { hidden = true; });
   const engine::Hand hand = HandOf(Session());
   QTest::keyClick(window_->windowHandle(), Qt::Key_Return);
   EXPECT_TRUE(hidden) << "the advised button flashes";
@@ -26,7 +25,7 @@ TEST_F(TrainerAdviceTest, AdviceIsNotGivenForTheHandAfterTheOneItWasAskedFor) {
     return !session.IsOver();
   }));
   std::string played;
-  QTimer::singleShot(500, window_.get(), [&] {
+  WhenHidden("HitButton", [&] {
     Press('H');
     played = Message();
   });
@@ -35,15 +34,43 @@ TEST_F(TrainerAdviceTest, AdviceIsNotGivenForTheHandAfterTheOneItWasAskedFor) {
   EXPECT_EQ(Message(), played);
 }
 
+TEST_F(TrainerAdviceTest, AdviceOnANewHandThatIsAskedForInTheFlashOfTheOldOneIsGiven) {
+  Open(SeedWhere([](engine::Session& session) {
+    if (!IsStiff(session)) return false;
+    session.Decide(Play::Hit);
+    return !session.IsOver() && session.Advised() == Play::Stand;
+  }));
+  std::string advice;
+  WhenHidden("HitButton", [&] {
+    Press('H');
+    Click("cmdAdviceButton");
+    advice = Message();
+    Press('P');
+  });
+  Click("cmdAdviceButton");
+  EXPECT_TRUE(advice.starts_with("Advice: Stand")) << advice;
+  EXPECT_TRUE(Message().starts_with("Split is not possible")) << "the old hand's is not: " << Message();
+}
+
+TEST_F(TrainerAdviceTest, AdviceIsGivenHoweverSoonAfterTheDealItWasAskedFor) {
+  OpenAt(IsStiff);
+  while (true) {
+    StandToTheEnd();
+    Press('S');
+    if (!Session().IsOver()) break;
+  }
+  Click("cmdAdviceButton");
+  EXPECT_TRUE(Message().starts_with("Advice: ")) << Message();
+}
+
 TEST_F(TrainerAdviceTest, BetweenRoundsThereIsNothingToAdvise) {
   OpenAt(IsStiff);
   Press('S');
   const std::string message = Message();
-  QTest::qWait(FlashTime);
   bool hidden = false;
-  QTimer::singleShot(100, window_.get(), [&] { hidden = !Find<QPushButton>("HitButton").isVisible(); });
+  WhenHidden("HitButton", [&hidden] { hidden = true; });
   Click("cmdAdviceButton");
-  QTest::qWait(150);
+  clock_.Wait(tactix::FlashDuration);
   EXPECT_FALSE(hidden);
   EXPECT_EQ(Message(), message);
 }
@@ -64,7 +91,7 @@ TEST_F(TrainerAdviceTest, ThePickedStrategyAdvisesAndJudgesTheSameHand) {
   EXPECT_EQ(Session().Advised(), Play::Stand);
   const std::string advice = PlayText(Play::Stand, hand, upCard).toStdString();
   bool hidden = false;
-  QTimer::singleShot(100, window_.get(), [&] { hidden = !Find<QPushButton>("StandButton").isVisible(); });
+  WhenHidden("StandButton", [&hidden] { hidden = true; });
   Click("cmdAdviceButton");
   EXPECT_TRUE(hidden) << "the newly advised button flashes";
   EXPECT_EQ(Message(), "Advice by Never Bust: " + advice + ".");
@@ -84,7 +111,7 @@ TEST_F(TrainerAdviceTest, ARowWithoutAStrategyChangesNothing) {
 
 TEST_F(TrainerAdviceTest, MayBeDestroyedWhileAButtonFlashes) {
   OpenAt(IsStiff);
-  QTimer::singleShot(300, qApp, [this] { window_.reset(); });
+  WhenHidden("HitButton", [this] { window_.reset(); });
   Click("cmdAdviceButton");
   EXPECT_FALSE(window_);
 }

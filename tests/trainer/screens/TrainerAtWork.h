@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -17,6 +16,8 @@
 #include "tactix/companion/Companion.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tests/support-qt/Gestures.h"
+#include "tests/support-qt/TestClock.h"
+#include "tests/support/When.h"
 #include "tests/trainer/screens/Sessions.h"
 #include "trainer/screens/Messages.h"
 #include "trainer/screens/TableView.h"
@@ -49,6 +50,8 @@ class TrainerAtWork : public testing::Test {
     window_ = std::make_unique<TrainerWindow>(engine::Session(rules, seed), catalogue_);
     QObject::connect(window_.get(), &TrainerWindow::Judged,
                      [this](const DecisionRecord& record) { records_.push_back(record); });
+    // Painted anew after each key, it would take most of the tests' time. What it looks like has tests of its own.
+    window_->Table().setUpdatesEnabled(false);
     window_->show();
     window_->Deal();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
@@ -70,11 +73,20 @@ class TrainerAtWork : public testing::Test {
     tactix::tests::ClickAt(*window_, *place, button, shift);
   }
   void Press(char key) { tactix::tests::PressKey(*window_, key); }
+  void WhenAMenuIsOpen(std::function<void(QMenu*)> action) {
+    const auto open = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    tactix::tests::When(
+        clock_, [open] { return open() != nullptr; }, [open, action = std::move(action)] { action(open()); });
+  }
+  /// Does something as soon as a widget is hidden: in the middle of its flash.
+  void WhenHidden(const char* name, std::function<void()> action) {
+    const QPointer<QWidget> widget(&Find<QWidget>(name));
+    tactix::tests::When(
+        clock_, [widget] { return widget && !widget->isVisible(); }, std::move(action));
+  }
   /// Clicks a button that opens a menu, and picks an entry there by its text.
   void ChooseFrom(const char* name, const QString& entry, std::int16_t button = tactix::LeftButton) {
-    QTimer::singleShot(50, window_.get(), [entry] {
-      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      ASSERT_TRUE(menu);
+    WhenAMenuIsOpen([entry](QMenu* menu) {
       for (QAction* action : menu->actions()) {
         if (action->text() == entry)
           return QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
@@ -96,6 +108,7 @@ class TrainerAtWork : public testing::Test {
     while (!Session().IsOver()) Press('S');
   }
 
+  tactix::tests::TestClock clock_;
   std::shared_ptr<tactix::companion::IniStrategyCatalogue> catalogue_;
   std::unique_ptr<TrainerWindow> window_;
   std::vector<DecisionRecord> records_;

@@ -183,7 +183,8 @@ TEST_F(TrainerInputsTest, AdviceFlashesTheAdvisedPlay) {
   OpenAt(IsStiff);
   View(ToolBarEntry);
   bool sawItDisabled = false;
-  QTimer::singleShot(100, window_.get(), [&] { sawItDisabled = !Tool("Hit").isEnabled(); });
+  tactix::tests::When(
+      clock_, [this] { return !Tool("Hit").isEnabled(); }, [&sawItDisabled] { sawItDisabled = true; });
   ClickTool("Advice");
   EXPECT_TRUE(sawItDisabled);
   EXPECT_TRUE(Tool("Hit").isEnabled());

@@ -131,7 +131,7 @@ TEST_F(TrainerMenusTest, CopiesTheHandButNotTheHoleCard) {
 
 TEST_F(TrainerMenusTest, MayBeDestroyedWhileAMenuIsOpen) {
   OpenAt(IsStiff);
-  QTimer::singleShot(100, qApp, [this] { window_.reset(); });
+  WhenAMenuIsOpen([this](QMenu*) { window_.reset(); });
   Click("cmdOptions");
   EXPECT_FALSE(window_);
 }
