@@ -1,38 +1,34 @@
 #include "tactix-qt/AdviceButton.h"
 
-#include "tactix-qt/Convert.h"
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-AdviceButton::AdviceButton(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::AdviceButton>(ItsSite());
-  button_ = control.get();
-  Own(std::move(control));
-  tactix::AdviceButton::EventSet& events = button_->Events;
-  events.Click.Connect([this] { Q_EMIT Click(); });
-  events.AdviceRecommendation.Connect([this](bool recommendation) { Q_EMIT AdviceRecommendation(recommendation); });
-  events.AdviceStrategySelected.Connect(
-      [this](const Variant& strategy) { Q_EMIT AdviceStrategySelected(strategy.ToLong()); });
-  events.StrategyListBoxVisibilityChanged.Connect(
-      [this](bool status) { Q_EMIT StrategyListBoxVisibilityChanged(status); });
+AdviceButton::AdviceButton(QWidget* parent) : WidgetOf(parent) {
+  using Events = Core::EventSet;
+  Relay(&Events::Click, &AdviceButton::Click);
+  Relay(&Events::AdviceRecommendation, &AdviceButton::AdviceRecommendation);
+  Relay(&Events::AdviceStrategySelected, &AdviceButton::AdviceStrategySelected);
+  Relay(&Events::StrategyListBoxVisibilityChanged, &AdviceButton::StrategyListBoxVisibilityChanged);
 }
 
 AdviceButton::~AdviceButton() { EndControl(); }
 
-QString AdviceButton::Caption() const { return ToQt(button_->Caption()); }
-void AdviceButton::Caption(const QString& caption) { button_->Caption(FromQt(caption)); }
-bool AdviceButton::DEFAULT() const { return button_->DEFAULT(); }
-void AdviceButton::DEFAULT(bool isDefault) { button_->DEFAULT(isDefault); }
-bool AdviceButton::Enabled() const { return button_->Enabled(); }
-void AdviceButton::Enabled(bool enabled) { button_->Enabled(enabled); }
-int AdviceButton::WhichStrategyToUse() const { return button_->WhichStrategyToUse(); }
-void AdviceButton::WhichStrategyToUse(int strategy) { button_->WhichStrategyToUse(ToInt16(strategy)); }
+QString AdviceButton::Caption() const { return Get<QString>(&Core::Caption); }
+bool AdviceButton::DEFAULT() const { return Get<bool>(&Core::DEFAULT); }
+bool AdviceButton::Enabled() const { return Get<bool>(&Core::Enabled); }
+int AdviceButton::WhichStrategyToUse() const { return Get<int>(&Core::WhichStrategyToUse); }
+
+void AdviceButton::setCaption(const QString& caption) { Call(&Core::Caption, caption); }
+void AdviceButton::setDEFAULT(bool isDefault) { Call(&Core::DEFAULT, isDefault); }
+void AdviceButton::setControlEnabled(bool enabled) { Call(&Core::Enabled, enabled); }
+void AdviceButton::setWhichStrategyToUse(int strategy) { Call(&Core::WhichStrategyToUse, strategy); }
+
 ObjectRef AdviceButton::AdviceStrategyList(const ObjectRef& thisStrategyList) {
-  return button_->AdviceStrategyList(thisStrategyList);
+  return Read<ObjectRef>([&](Core& button) { return button.AdviceStrategyList(thisStrategyList); });
 }
-void AdviceButton::BlinkIfNecessary() { button_->BlinkIfNecessary(); }
-void AdviceButton::BlinkTime(float timeAmount) { button_->BlinkTime(timeAmount); }
-void AdviceButton::FlashObject(const ObjectRef& buttonToFlash) { button_->FlashObject(buttonToFlash); }
+void AdviceButton::BlinkIfNecessary() { Call(&Core::BlinkIfNecessary); }
+void AdviceButton::BlinkTime(float timeAmount) { Call(&Core::BlinkTime, timeAmount); }
+void AdviceButton::FlashObject(const ObjectRef& buttonToFlash) { Call(&Core::FlashObject, buttonToFlash); }
 
 }  // namespace tactix::qt

@@ -1,16 +1,13 @@
 #include "tactix-qt/BetStrategyList.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-BetStrategyList::BetStrategyList(QWidget* parent) : NumberedStrategyList(parent) {
-  auto control = std::make_unique<tactix::BetStrategyList>(ItsSite());
-  list_ = control.get();
-  Take(std::move(control));
-}
+BetStrategyList::BetStrategyList(QWidget* parent) : WidgetOf(parent) {}
 
-void BetStrategyList::InputBettingStrategyDescriptions() { list_->InputBettingStrategyDescriptions(); }
+BetStrategyList::~BetStrategyList() { EndControl(); }
+
+void BetStrategyList::InputBettingStrategyDescriptions() { Call(&Core::InputBettingStrategyDescriptions); }
 
 }  // namespace tactix::qt

@@ -2,24 +2,22 @@
 
 #include "tactix-qt/Export.h"
 #include "tactix-qt/NumberedStrategyList.h"
+#include "tactix-qt/WidgetOf.h"
 #include "tactix/strategy/BetStrategyList.h"
 
 namespace tactix::qt {
 
-/// The betting strategy list as a widget: tactix::BetStrategyList with its properties, signals and slots.
-class TACTIX_QT_EXPORT BetStrategyList : public NumberedStrategyList {
+/// The betting strategy list as a widget, see tactix::BetStrategyList.
+class TACTIX_QT_EXPORT BetStrategyList : public WidgetOf<tactix::BetStrategyList, NumberedStrategyList> {
   Q_OBJECT
 
  public:
   explicit BetStrategyList(QWidget* parent = nullptr);
-
-  tactix::BetStrategyList& control() const { return *list_; }
+  ~BetStrategyList() override;
 
  public Q_SLOTS:
+  /// Refills the box from the catalogue. Fails as the catalogue fails.
   void InputBettingStrategyDescriptions();
-
- private:
-  tactix::BetStrategyList* list_;
 };
 
 }  // namespace tactix::qt

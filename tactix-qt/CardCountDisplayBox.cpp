@@ -1,29 +1,23 @@
 #include "tactix-qt/CardCountDisplayBox.h"
 
-#include <memory>
-#include <utility>
-
-#include "tactix-qt/Convert.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-CardCountDisplayBox::CardCountDisplayBox(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::CardCountDisplayBox>(ItsSite());
-  box_ = control.get();
-  Own(std::move(control));
-}
+CardCountDisplayBox::CardCountDisplayBox(QWidget* parent) : WidgetOf(parent) {}
 
 CardCountDisplayBox::~CardCountDisplayBox() { EndControl(); }
 
 CardCountDisplayBox::TypeOfCountBox CardCountDisplayBox::CountBoxType() const {
-  return static_cast<TypeOfCountBox>(box_->CountBoxType().Value());
+  return Get<TypeOfCountBox>(&Core::CountBoxType);
 }
-void CardCountDisplayBox::CountBoxType(TypeOfCountBox type) { box_->CountBoxType(static_cast<std::int32_t>(type)); }
-void CardCountDisplayBox::CountValue(int value) { box_->CountValue(value); }
-void CardCountDisplayBox::ShadowBoxStatus(int status) { box_->ShadowBoxStatus(status); }
-QColor CardCountDisplayBox::BackColor() const { return OwnColor(box_->BackColor()); }
-void CardCountDisplayBox::BackColor(const QColor& color) { box_->BackColor(ColorOr(color, WindowColor)); }
-QColor CardCountDisplayBox::ForeColor() const { return OwnColor(box_->ForeColor()); }
-void CardCountDisplayBox::ForeColor(const QColor& color) { box_->ForeColor(ColorOr(color, WindowTextColor)); }
+QColor CardCountDisplayBox::BackColor() const { return Get<QColor>(&Core::BackColor); }
+QColor CardCountDisplayBox::ForeColor() const { return Get<QColor>(&Core::ForeColor); }
+
+void CardCountDisplayBox::setCountBoxType(TypeOfCountBox type) { Call(&Core::CountBoxType, type); }
+void CardCountDisplayBox::setBackColor(const QColor& color) { Call(&Core::BackColor, ColorOr(color, WindowColor)); }
+void CardCountDisplayBox::setForeColor(const QColor& color) { Call(&Core::ForeColor, ColorOr(color, WindowTextColor)); }
+void CardCountDisplayBox::CountValue(int value) { Call(&Core::CountValue, value); }
+void CardCountDisplayBox::ShadowBoxStatus(int status) { Call(&Core::ShadowBoxStatus, status); }
 
 }  // namespace tactix::qt

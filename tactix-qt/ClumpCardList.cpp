@@ -1,30 +1,23 @@
 #include "tactix-qt/ClumpCardList.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-ClumpCardList::ClumpCardList(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::ClumpCardList>(ItsSite());
-  list_ = control.get();
-  Own(std::move(control));
-  list_->Events.ClumpValueSelected.Connect([this](const std::int32_t& value) { Q_EMIT ClumpValueSelected(value); });
+ClumpCardList::ClumpCardList(QWidget* parent) : WidgetOf(parent) {
+  Relay(&Core::EventSet::ClumpValueSelected, &ClumpCardList::ClumpValueSelected);
 }
 
 ClumpCardList::~ClumpCardList() { EndControl(); }
 
 ClumpCardList::theClumpCardValuePossibilities ClumpCardList::CardValue() const {
-  return static_cast<theClumpCardValuePossibilities>(list_->CardValue().Value());
-}
-void ClumpCardList::CardValue(theClumpCardValuePossibilities card) {
-  list_->CardValue(static_cast<std::int32_t>(card));
+  return Get<theClumpCardValuePossibilities>(&Core::CardValue);
 }
 ClumpCardList::CardClumpValuePossibilities ClumpCardList::ClumpValue() const {
-  return static_cast<CardClumpValuePossibilities>(list_->ClumpValue().Value());
+  return Get<CardClumpValuePossibilities>(&Core::ClumpValue);
 }
-void ClumpCardList::ClumpValue(CardClumpValuePossibilities value) {
-  list_->ClumpValue(static_cast<std::int32_t>(value));
-}
+
+void ClumpCardList::setCardValue(theClumpCardValuePossibilities card) { Call(&Core::CardValue, card); }
+void ClumpCardList::setClumpValue(CardClumpValuePossibilities value) { Call(&Core::ClumpValue, value); }
 
 }  // namespace tactix::qt

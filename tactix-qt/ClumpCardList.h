@@ -2,57 +2,56 @@
 
 #include <cstdint>
 
-#include "tactix-qt/ControlWidget.h"
 #include "tactix-qt/Export.h"
+#include "tactix-qt/WidgetOf.h"
 #include "tactix/counting/ClumpCardList.h"
 
 namespace tactix::qt {
 
-/// The clump value list of a card as a widget: tactix::ClumpCardList with its properties and signals.
-class TACTIX_QT_EXPORT ClumpCardList : public ControlWidget {
+/// The clump value list of a card as a widget, see WidgetOf and tactix::ClumpCardList.
+class TACTIX_QT_EXPORT ClumpCardList : public WidgetOf<tactix::ClumpCardList> {
   Q_OBJECT
-  Q_PROPERTY(theClumpCardValuePossibilities CardValue READ CardValue WRITE CardValue)
-  /// What is written is not what is read: see tactix::CardValueSelector.
-  Q_PROPERTY(CardClumpValuePossibilities ClumpValue READ ClumpValue WRITE ClumpValue STORED false DESIGNABLE false)
+  Q_PROPERTY(theClumpCardValuePossibilities CardValue READ CardValue WRITE setCardValue)
+  Q_PROPERTY(CardClumpValuePossibilities ClumpValue READ ClumpValue WRITE setClumpValue STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::theClumpCardValuePossibilities. A saved control may hold other numbers.
   enum theClumpCardValuePossibilities : std::int32_t {
-    theClumpCardValueIsAnAce = 1,
-    theClumpCardValueIsATwo = 2,
-    theClumpCardValueIsAThree = 3,
-    theClumpCardValueIsAFour = 4,
-    theClumpCardValueIsAFive = 5,
-    theClumpCardValueIsASix = 6,
-    theClumpCardValueIsASeven = 7,
-    theClumpCardValueIsAnEight = 8,
-    theClumpCardValueIsANine = 9,
-    theClumpCardValueIsATen = 10,
+    theClumpCardValueIsAnAce = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsAnAce),
+    theClumpCardValueIsATwo = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsATwo),
+    theClumpCardValueIsAThree = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsAThree),
+    theClumpCardValueIsAFour = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsAFour),
+    theClumpCardValueIsAFive = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsAFive),
+    theClumpCardValueIsASix = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsASix),
+    theClumpCardValueIsASeven = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsASeven),
+    theClumpCardValueIsAnEight = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsAnEight),
+    theClumpCardValueIsANine = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsANine),
+    theClumpCardValueIsATen = int(tactix::theClumpCardValuePossibilities::theClumpCardValueIsATen),
   };
   Q_ENUM(theClumpCardValuePossibilities)
   /// The rows of tactix::CardClumpValuePossibilities. Other numbers are kept, too.
   enum CardClumpValuePossibilities : std::int32_t {
-    NeutralClumpValue = 0,
+    NeutralClumpValue = int(tactix::CardClumpValuePossibilities::NeutralClumpValue),
   };
   Q_ENUM(CardClumpValuePossibilities)
 
   explicit ClumpCardList(QWidget* parent = nullptr);
   ~ClumpCardList() override;
 
-  tactix::ClumpCardList& control() const { return *list_; }
-
+  /// The card, the ace by default. Writing another number than its rows does nothing.
   theClumpCardValuePossibilities CardValue() const;
+  /// The value that was picked, 0 by default. What is written is not what is read: see tactix::CardValueSelector.
   CardClumpValuePossibilities ClumpValue() const;
 
  public Q_SLOTS:
-  void CardValue(theClumpCardValuePossibilities card);
-  void ClumpValue(CardClumpValuePossibilities value);
+  void setCardValue(theClumpCardValuePossibilities card);
+  void setClumpValue(CardClumpValuePossibilities value);
+  void CardValue(theClumpCardValuePossibilities card) { setCardValue(card); }
+  void ClumpValue(CardClumpValuePossibilities value) { setClumpValue(value); }
 
  Q_SIGNALS:
+  /// Carries the value of the row that was picked.
   void ClumpValueSelected(int newClumpValue);
-
- private:
-  tactix::ClumpCardList* list_;
 };
 
 }  // namespace tactix::qt

@@ -24,6 +24,8 @@ constexpr int SmallestSide = 16;
 
 ControlWidget::ControlWidget(QWidget* parent) : QWidget(parent), site_(std::make_unique<QtSite>(*this)) {}
 
+ControlWidget::ControlWidget(Maker make, QWidget* parent) : ControlWidget(parent) { Own(make(*site_)); }
+
 ControlWidget::~ControlWidget() { EndControl(); }
 
 void ControlWidget::EndControl() {
@@ -176,7 +178,7 @@ void ControlWidget::changeEvent(QEvent* event) {
       break;
     case QEvent::EnabledChange:
       // The host's own flag; a disabled parent is none of the control's business.
-      control_->Extender().Enabled(!testAttribute(Qt::WA_ForceDisabled));
+      RunUserAction(*site_, [this] { control_->Extender().Enabled(!testAttribute(Qt::WA_ForceDisabled)); });
       break;
     default:
       break;
@@ -184,9 +186,11 @@ void ControlWidget::changeEvent(QEvent* event) {
 }
 
 bool ControlWidget::event(QEvent* event) {
-  if (control_ && root_) {
-    if (event->type() == QEvent::ShowToParent) control_->Extender().Visible(true);
-    if (event->type() == QEvent::HideToParent) control_->Extender().Visible(false);
+  const bool shown = event->type() == QEvent::ShowToParent;
+  if (control_ && root_ && (shown || event->type() == QEvent::HideToParent)) {
+    const QPointer<ControlWidget> self(this);
+    RunUserAction(*site_, [&] { control_->Extender().Visible(shown); });
+    if (!self) return true;
   }
   return QWidget::event(event);
 }

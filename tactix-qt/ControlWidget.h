@@ -15,8 +15,9 @@ class RootPeer;
 /// A QWidget that shows a control. The classes named after the controls derive from it and own theirs; it also hosts a
 /// control that somebody else owns, made on ItsSite().
 ///
-/// Errors that a user's action raises come out of unhandledError; those of a direct call of the control are the
-/// caller's. The child widgets are found by their names as object names.
+/// Errors that a user's action raises come out of unhandledError, and so do those of the derived classes' properties,
+/// slots and invokables; those of a direct call of the control are the caller's. The child widgets are found by their
+/// names as object names.
 class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   Q_OBJECT
   /// True by default: the control runs. False in a form designer.
@@ -26,7 +27,7 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   explicit ControlWidget(QWidget* parent = nullptr);
   ~ControlWidget() override;
 
-  QtSite& ItsSite() { return *site_; }
+  QtSite& ItsSite() const { return *site_; }
   /// Null before Host, and once the control is gone.
   Control* Hosted() const { return control_; }
 
@@ -44,10 +45,15 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
  Q_SIGNALS:
   /// A persisted property has changed, under this name.
   void propertyChanged(const QString& name);
-  /// An error that a user's action or a timer has raised. Where nothing is connected it is logged as a warning.
+  /// An error that a user's action, a timer, a property or a slot has raised. Where nothing is connected it is logged
+  /// as a warning.
   void unhandledError(const QString& text, int code);
 
  protected:
+  /// Makes the control of a derived class.
+  using Maker = std::unique_ptr<Control> (*)(Site& site);
+  ControlWidget(Maker make, QWidget* parent);
+
   /// Takes a new control over, gives it its initial properties, and hosts it.
   void Own(std::unique_ptr<Control> control);
   /// Ends the control. Destructors of derived classes call it first, while their signals are still there.

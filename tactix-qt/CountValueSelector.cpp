@@ -1,30 +1,23 @@
 #include "tactix-qt/CountValueSelector.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-CountValueSelector::CountValueSelector(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::CountValueSelector>(ItsSite());
-  selector_ = control.get();
-  Own(std::move(control));
-  selector_->Events.CountValueSelected.Connect([this](const std::int32_t& value) { Q_EMIT CountValueSelected(value); });
+CountValueSelector::CountValueSelector(QWidget* parent) : WidgetOf(parent) {
+  Relay(&Core::EventSet::CountValueSelected, &CountValueSelector::CountValueSelected);
 }
 
 CountValueSelector::~CountValueSelector() { EndControl(); }
 
 CountValueSelector::theCardValuePossibilities CountValueSelector::CardValue() const {
-  return static_cast<theCardValuePossibilities>(selector_->CardValue().Value());
-}
-void CountValueSelector::CardValue(theCardValuePossibilities card) {
-  selector_->CardValue(static_cast<std::int32_t>(card));
+  return Get<theCardValuePossibilities>(&Core::CardValue);
 }
 CountValueSelector::CardPointValuePossibilities CountValueSelector::PointValue() const {
-  return static_cast<CardPointValuePossibilities>(selector_->PointValue().Value());
+  return Get<CardPointValuePossibilities>(&Core::PointValue);
 }
-void CountValueSelector::PointValue(CardPointValuePossibilities value) {
-  selector_->PointValue(static_cast<std::int32_t>(value));
-}
+
+void CountValueSelector::setCardValue(theCardValuePossibilities card) { Call(&Core::CardValue, card); }
+void CountValueSelector::setPointValue(CardPointValuePossibilities value) { Call(&Core::PointValue, value); }
 
 }  // namespace tactix::qt

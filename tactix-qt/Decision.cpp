@@ -1,119 +1,115 @@
 #include "tactix-qt/Decision.h"
 
-#include "tactix-qt/Convert.h"
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-namespace {
-
-struct SignalRow {
-  Event<> tactix::Decision::EventSet::*event;
-  void (Decision::*signal)();
-};
-using Events = tactix::Decision::EventSet;
-constexpr SignalRow SignalRows[] = {
-    {&Events::AdviceRequested, &Decision::AdviceRequested},
-    {&Events::BurnACardRequested, &Decision::BurnACardRequested},
-    {&Events::HitCardHiPrediction, &Decision::HitCardHiPrediction},
-    {&Events::HitCardLoPrediction, &Decision::HitCardLoPrediction},
-    {&Events::HitCardNeutralPrediction, &Decision::HitCardNeutralPrediction},
-    {&Events::HitCardUnknownPrediction, &Decision::HitCardUnknownPrediction},
-    {&Events::PlayerDoublesDown, &Decision::PlayerDoublesDown},
-    {&Events::PlayerHits, &Decision::PlayerHits},
-    {&Events::PlayerSplits, &Decision::PlayerSplits},
-    {&Events::PlayerStands, &Decision::PlayerStands},
-    {&Events::PlayerSurrenders, &Decision::PlayerSurrenders},
-    {&Events::PlugHandCardsInClipboard, &Decision::PlugHandCardsInClipboard},
-    {&Events::PlugPromptPlayHands, &Decision::PlugPromptPlayHands},
-    {&Events::TensRatioHiPrediction, &Decision::TensRatioHiPrediction},
-    {&Events::TensRatioLoPrediction, &Decision::TensRatioLoPrediction},
-    {&Events::WholeCardHiPrediction, &Decision::WholeCardHiPrediction},
-    {&Events::WholeCardLoPrediction, &Decision::WholeCardLoPrediction},
-    {&Events::WholeCardNeutralPrediction, &Decision::WholeCardNeutralPrediction},
-    {&Events::WholeCardUnknownPrediction, &Decision::WholeCardUnknownPrediction},
-    {&Events::Show, &Decision::ShowRaised},
-};
-
-}  // namespace
-
-Decision::Decision(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::Decision>(ItsSite());
-  decision_ = control.get();
-  Own(std::move(control));
-  for (const SignalRow& row : SignalRows) {
-    (decision_->Events.*row.event).Connect([this, signal = row.signal] { Q_EMIT(this->*signal)(); });
-  }
-  decision_->Events.EvaluationStrategySelected.Connect(
-      [this](const Variant& strategy) { Q_EMIT EvaluationStrategySelected(strategy.ToLong()); });
+Decision::Decision(QWidget* parent) : WidgetOf(parent) {
+  using Events = Core::EventSet;
+  Relay(&Events::AdviceRequested, &Decision::AdviceRequested);
+  Relay(&Events::BurnACardRequested, &Decision::BurnACardRequested);
+  Relay(&Events::EvaluationStrategySelected, &Decision::EvaluationStrategySelected);
+  Relay(&Events::HitCardHiPrediction, &Decision::HitCardHiPrediction);
+  Relay(&Events::HitCardLoPrediction, &Decision::HitCardLoPrediction);
+  Relay(&Events::HitCardNeutralPrediction, &Decision::HitCardNeutralPrediction);
+  Relay(&Events::HitCardUnknownPrediction, &Decision::HitCardUnknownPrediction);
+  Relay(&Events::PlayerDoublesDown, &Decision::PlayerDoublesDown);
+  Relay(&Events::PlayerHits, &Decision::PlayerHits);
+  Relay(&Events::PlayerSplits, &Decision::PlayerSplits);
+  Relay(&Events::PlayerStands, &Decision::PlayerStands);
+  Relay(&Events::PlayerSurrenders, &Decision::PlayerSurrenders);
+  Relay(&Events::PlugHandCardsInClipboard, &Decision::PlugHandCardsInClipboard);
+  Relay(&Events::PlugPromptPlayHands, &Decision::PlugPromptPlayHands);
+  Relay(&Events::TensRatioHiPrediction, &Decision::TensRatioHiPrediction);
+  Relay(&Events::TensRatioLoPrediction, &Decision::TensRatioLoPrediction);
+  Relay(&Events::WholeCardHiPrediction, &Decision::WholeCardHiPrediction);
+  Relay(&Events::WholeCardLoPrediction, &Decision::WholeCardLoPrediction);
+  Relay(&Events::WholeCardNeutralPrediction, &Decision::WholeCardNeutralPrediction);
+  Relay(&Events::WholeCardUnknownPrediction, &Decision::WholeCardUnknownPrediction);
+  Relay(&Events::Show, &Decision::ShowRaised);
 }
 
 Decision::~Decision() { EndControl(); }
 
 Decision::AdviceButtonAppearance Decision::AllowAdvice() const {
-  return static_cast<AdviceButtonAppearance>(decision_->AllowAdvice().Value());
+  return Get<AdviceButtonAppearance>(&Core::AllowAdvice);
 }
-void Decision::AllowAdvice(AdviceButtonAppearance appearance) {
-  decision_->AllowAdvice(static_cast<std::int32_t>(appearance));
-}
-Decision::TypeOfDecisionBox Decision::DecisionBoxType() const {
-  return static_cast<TypeOfDecisionBox>(decision_->DecisionBoxType().Value());
-}
-void Decision::DecisionBoxType(TypeOfDecisionBox type) { decision_->DecisionBoxType(static_cast<std::int32_t>(type)); }
-int Decision::thisKelvoEdition() const { return decision_->thisKelvoEdition(); }
-bool Decision::PromptThePlayButtons() const { return decision_->PromptThePlayButtons(); }
-void Decision::PromptThePlayButtons(bool prompt) { decision_->PromptThePlayButtons(prompt); }
-bool Decision::PlayButtonPromptStatus() const { return decision_->PlayButtonPromptStatus(); }
-QString Decision::ToolTip() const { return ToQt(decision_->ToolTip()); }
-void Decision::ToolTip(const QString& text) { decision_->ToolTip(FromQt(text)); }
-QString Decision::Qualifier() const { return ToQt(decision_->Qualifier()); }
-void Decision::Qualifier(const QString& ignored) { decision_->Qualifier(FromQt(ignored)); }
-void Decision::GiveAdvice(int recommendedAdvice) { decision_->GiveAdvice(ToInt16(recommendedAdvice)); }
-void Decision::ToolTipMessage(const QString& toolTipStrategy) { decision_->ToolTipMessage(FromQt(toolTipStrategy)); }
+Decision::TypeOfDecisionBox Decision::DecisionBoxType() const { return Get<TypeOfDecisionBox>(&Core::DecisionBoxType); }
+int Decision::thisKelvoEdition() const { return Get<int>(&Core::thisKelvoEdition); }
+bool Decision::PromptThePlayButtons() const { return Get<bool>(&Core::PromptThePlayButtons); }
+bool Decision::PlayButtonPromptStatus() const { return Get<bool>(&Core::PlayButtonPromptStatus); }
+QString Decision::ToolTip() const { return Get<QString>(&Core::ToolTip); }
+QString Decision::Qualifier() const { return Get<QString>(&Core::Qualifier); }
 
 std::int16_t Decision::ConvertFromPixelsToTwipsX(const Variant& cValue) const {
-  return decision_->ConvertFromPixelsToTwipsX(cValue);
+  return Get<std::int16_t>(&Core::ConvertFromPixelsToTwipsX, cValue);
 }
 std::int16_t Decision::ConvertFromPixelsToTwipsY(const Variant& cValue) const {
-  return decision_->ConvertFromPixelsToTwipsY(cValue);
+  return Get<std::int16_t>(&Core::ConvertFromPixelsToTwipsY, cValue);
 }
 std::int16_t Decision::ConvertFromTwipsToPixelsX(const Variant& cValue) const {
-  return decision_->ConvertFromTwipsToPixelsX(cValue);
+  return Get<std::int16_t>(&Core::ConvertFromTwipsToPixelsX, cValue);
 }
 std::int16_t Decision::ConvertFromTwipsToPixelsY(const Variant& cValue) const {
-  return decision_->ConvertFromTwipsToPixelsY(cValue);
+  return Get<std::int16_t>(&Core::ConvertFromTwipsToPixelsY, cValue);
 }
 
-void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) { decision_->SetupTheDecisionBox(thisDCB); }
-void Decision::SetupTheDecisionBox(const Variant& thisDCB) { decision_->SetupTheDecisionBox(thisDCB); }
+void Decision::setAllowAdvice(AdviceButtonAppearance appearance) { Call(&Core::AllowAdvice, appearance); }
+void Decision::setDecisionBoxType(TypeOfDecisionBox type) { Call(&Core::DecisionBoxType, type); }
+void Decision::setPromptThePlayButtons(bool prompt) { Call(&Core::PromptThePlayButtons, prompt); }
+void Decision::setControlToolTip(const QString& text) { Call(&Core::ToolTip, text); }
+void Decision::setQualifier(const QString& ignored) { Call(&Core::Qualifier, ignored); }
+void Decision::GiveAdvice(int recommendedAdvice) { Call(&Core::GiveAdvice, recommendedAdvice); }
+void Decision::ToolTipMessage(const QString& toolTipStrategy) { Call(&Core::ToolTipMessage, toolTipStrategy); }
+
+void Decision::SetupTheDecisionBox(const DecisionBlock& thisDCB) {
+  Run([&](Core& box) { box.SetupTheDecisionBox(thisDCB); });
+}
+void Decision::SetupTheDecisionBox(const Variant& thisDCB) {
+  Run([&](Core& box) { box.SetupTheDecisionBox(thisDCB); });
+}
 void Decision::SetupDecisionBox(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  decision_->SetupDecisionBox(thisDCB, userKelvoEdition);
+  Run([&](Core& box) { box.SetupDecisionBox(thisDCB, userKelvoEdition); });
 }
 void Decision::SetupDecisionBox(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  decision_->SetupDecisionBox(thisDCB, userKelvoEdition);
+  Run([&](Core& box) { box.SetupDecisionBox(thisDCB, userKelvoEdition); });
 }
-void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) { decision_->SetupPlayButtons(thisDCB); }
-void Decision::SetupPlayButtons(const Variant& thisDCB) { decision_->SetupPlayButtons(thisDCB); }
-void Decision::HereIsTheDCB(const DecisionBlock& thisDCB) { decision_->HereIsTheDCB(thisDCB); }
-void Decision::HereIsTheDCB(const Variant& thisDCB) { decision_->HereIsTheDCB(thisDCB); }
-void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { decision_->DecodeThisDCB(thisDCB); }
-void Decision::DecodeThisDCB(const Variant& thisDCB) { decision_->DecodeThisDCB(thisDCB); }
+void Decision::SetupPlayButtons(const DecisionBlock& thisDCB) {
+  Run([&](Core& box) { box.SetupPlayButtons(thisDCB); });
+}
+void Decision::SetupPlayButtons(const Variant& thisDCB) {
+  Run([&](Core& box) { box.SetupPlayButtons(thisDCB); });
+}
+void Decision::HereIsTheDCB(const DecisionBlock& thisDCB) {
+  Run([&](Core& box) { box.HereIsTheDCB(thisDCB); });
+}
+void Decision::HereIsTheDCB(const Variant& thisDCB) {
+  Run([&](Core& box) { box.HereIsTheDCB(thisDCB); });
+}
+void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) {
+  Run([&](Core& box) { box.DecodeThisDCB(thisDCB); });
+}
+void Decision::DecodeThisDCB(const Variant& thisDCB) {
+  Run([&](Core& box) { box.DecodeThisDCB(thisDCB); });
+}
 void Decision::TheKelvoEditionIs(const Variant& theShortKelvoEdition) {
-  decision_->TheKelvoEditionIs(theShortKelvoEdition);
+  Call(&Core::TheKelvoEditionIs, theShortKelvoEdition);
 }
-void Decision::CenterYourSelf() { decision_->CenterYourSelf(); }
-void Decision::Show(std::int16_t& modalFlag) { decision_->Show(modalFlag); }
-void Decision::DecisionMade() { decision_->DecisionMade(); }
-void Decision::HandleAdviceConsiderations() { decision_->HandleAdviceConsiderations(); }
-void Decision::FlashObject(const ObjectRef& buttonToFlash) { decision_->FlashObject(buttonToFlash); }
-void Decision::BlinkTime(float timeAmount) { decision_->BlinkTime(timeAmount); }
-void Decision::DiddleThePromptShit() { decision_->DiddleThePromptShit(); }
-void Decision::PredictTheHitCard(int predictionKeys) { decision_->PredictTheHitCard(ToInt16(predictionKeys)); }
-void Decision::DisplayHitcardSetting(int shiftKeys) { decision_->DisplayHitcardSetting(ToInt16(shiftKeys)); }
+
+void Decision::CenterYourSelf() { Call(&Core::CenterYourSelf); }
+void Decision::Show(std::int16_t& modalFlag) {
+  Run([&](Core& box) { box.Show(modalFlag); });
+}
+void Decision::DecisionMade() { Call(&Core::DecisionMade); }
+void Decision::HandleAdviceConsiderations() { Call(&Core::HandleAdviceConsiderations); }
+void Decision::FlashObject(const ObjectRef& buttonToFlash) { Call(&Core::FlashObject, buttonToFlash); }
+void Decision::BlinkTime(float timeAmount) { Call(&Core::BlinkTime, timeAmount); }
+void Decision::DiddleThePromptShit() { Call(&Core::DiddleThePromptShit); }
+void Decision::PredictTheHitCard(int predictionKeys) { Call(&Core::PredictTheHitCard, predictionKeys); }
+void Decision::DisplayHitcardSetting(int shiftKeys) { Call(&Core::DisplayHitcardSetting, shiftKeys); }
 void Decision::SetDescriptionBoxState(int buttonNumber, int shiftKeys, int leftPosition, const QString& buttonText) {
-  decision_->SetDescriptionBoxState(ToInt16(buttonNumber), ToInt16(shiftKeys), ToInt16(leftPosition),
-                                    FromQt(buttonText));
+  Call(&Core::SetDescriptionBoxState, buttonNumber, shiftKeys, leftPosition, buttonText);
 }
-void Decision::ClearButtonDescriptionBox() { decision_->ClearButtonDescriptionBox(); }
+void Decision::ClearButtonDescriptionBox() { Call(&Core::ClearButtonDescriptionBox); }
 
 }  // namespace tactix::qt

@@ -2,14 +2,8 @@
 
 namespace tactix::qt {
 
-namespace {
+DecisionBAR::DecisionBAR(QWidget* parent) : WidgetOf(parent) {}
 
-std::unique_ptr<tactix::DecisionToolBarControl> Make(Site& site) { return std::make_unique<tactix::DecisionBAR>(site); }
-
-}  // namespace
-
-DecisionBAR::DecisionBAR(QWidget* parent) : DecisionToolBarControl(Make, parent) {}
-
-DecisionBAR::~DecisionBAR() = default;
+DecisionBAR::~DecisionBAR() { EndControl(); }
 
 }  // namespace tactix::qt

@@ -1,20 +1,14 @@
 #include "tactix-qt/DecisionBAR2.h"
 
+#include "tactix-qt/Forwarding.h"
+
 namespace tactix::qt {
 
-namespace {
+DecisionBAR2::DecisionBAR2(QWidget* parent) : WidgetOf(parent) {}
 
-std::unique_ptr<tactix::DecisionToolBarControl> Make(Site& site) {
-  return std::make_unique<tactix::DecisionBAR2>(site);
-}
+DecisionBAR2::~DecisionBAR2() { EndControl(); }
 
-}  // namespace
-
-DecisionBAR2::DecisionBAR2(QWidget* parent) : DecisionToolBarControl(Make, parent) {}
-
-DecisionBAR2::~DecisionBAR2() = default;
-
-void DecisionBAR2::ResetTheHitcardPredictionButtons() { control().ResetTheHitcardPredictionButtons(); }
-void DecisionBAR2::ResetTheHoleCardPredictionButtons() { control().ResetTheHoleCardPredictionButtons(); }
+void DecisionBAR2::ResetTheHitcardPredictionButtons() { Call(&Core::ResetTheHitcardPredictionButtons); }
+void DecisionBAR2::ResetTheHoleCardPredictionButtons() { Call(&Core::ResetTheHoleCardPredictionButtons); }
 
 }  // namespace tactix::qt

@@ -1,136 +1,110 @@
 #include "tactix-qt/DecisionToolBar.h"
 
-#include "tactix-qt/Convert.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-namespace {
-
 using Bar = DecisionToolBarControl;
-using Events = tactix::DecisionToolBarControl::EventSet;
 
-struct SignalRow {
-  Event<> Events::*event;
-  void (Bar::*signal)();
-};
-constexpr SignalRow SignalRows[] = {
-    {&Events::HitButtonWasPressed, &Bar::HitButtonWasPressed},
-    {&Events::StandButtonWasPressed, &Bar::StandButtonWasPressed},
-    {&Events::SplitButtonWasPressed, &Bar::SplitButtonWasPressed},
-    {&Events::DoubleButtonWasPressed, &Bar::DoubleButtonWasPressed},
-    {&Events::StatsButtonWasPressed, &Bar::StatsButtonWasPressed},
-    {&Events::AdviceButtonWasPressed, &Bar::AdviceButtonWasPressed},
-    {&Events::SurrenderButtonWasPressed, &Bar::SurrenderButtonWasPressed},
-};
-
-Bar::ButtonStatusPossibilities ToQt(Coded<ButtonStatusPossibilities> status) {
-  return static_cast<Bar::ButtonStatusPossibilities>(status.Value());
-}
-Coded<ButtonStatusPossibilities> FromQt(Bar::ButtonStatusPossibilities status) {
-  return static_cast<std::int32_t>(status);
+Bar::DecisionToolBarControl(Maker make, QWidget* parent) : WidgetOf(make, parent) {
+  using Events = Core::EventSet;
+  Relay(&Events::HitButtonWasPressed, &Bar::HitButtonWasPressed);
+  Relay(&Events::StandButtonWasPressed, &Bar::StandButtonWasPressed);
+  Relay(&Events::SplitButtonWasPressed, &Bar::SplitButtonWasPressed);
+  Relay(&Events::DoubleButtonWasPressed, &Bar::DoubleButtonWasPressed);
+  Relay(&Events::StatsButtonWasPressed, &Bar::StatsButtonWasPressed);
+  Relay(&Events::AdviceButtonWasPressed, &Bar::AdviceButtonWasPressed);
+  Relay(&Events::SurrenderButtonWasPressed, &Bar::SurrenderButtonWasPressed);
+  Relay(&Events::HereIsThePlayersPromptMessage, &Bar::HereIsThePlayersPromptMessage);
+  Relay(&Events::HereIsAResponseBlock, &Bar::HereIsAResponseBlock);
 }
 
-}  // namespace
+Bar::~DecisionToolBarControl() { EndControl(); }
 
-DecisionToolBarControl::DecisionToolBarControl(Maker& make, QWidget* parent) : ControlWidget(parent) {
-  auto control = make(ItsSite());
-  bar_ = control.get();
-  Own(std::move(control));
-  for (const SignalRow& row : SignalRows) {
-    (bar_->Events.*row.event).Connect([this, signal = row.signal] { Q_EMIT(this->*signal)(); });
-  }
-  bar_->Events.HereIsThePlayersPromptMessage.Connect(
-      [this](const std::string& text) { Q_EMIT HereIsThePlayersPromptMessage(qt::ToQt(text)); });
-  bar_->Events.HereIsAResponseBlock.Connect(
-      [this](const DecisionBARResponseObject& block) { Q_EMIT HereIsAResponseBlock(block); });
+Bar::DecisionBARAlignment Bar::Alignment() const { return Get<DecisionBARAlignment>(&Core::Alignment); }
+Bar::ButtonStatusPossibilities Bar::HitcardButtonsVisibility() const {
+  return Get<ButtonStatusPossibilities>(&Core::HitcardButtonsVisibility);
 }
-
-DecisionToolBarControl::~DecisionToolBarControl() { EndControl(); }
-
-Bar::DecisionBARAlignment DecisionToolBarControl::Alignment() const {
-  return static_cast<DecisionBARAlignment>(bar_->Alignment().Value());
+Bar::ButtonStatusPossibilities Bar::HolecardButtonsVisibility() const {
+  return Get<ButtonStatusPossibilities>(&Core::HolecardButtonsVisibility);
 }
-void DecisionToolBarControl::Alignment(DecisionBARAlignment alignment) {
-  bar_->Alignment(static_cast<std::int32_t>(alignment));
+Bar::ButtonStatusPossibilities Bar::TensRatioButtonVisibility() const {
+  return Get<ButtonStatusPossibilities>(&Core::TensRatioButtonVisibility);
 }
-
-Bar::ButtonStatusPossibilities DecisionToolBarControl::HitcardButtonsVisibility() const {
-  return ToQt(bar_->HitcardButtonsVisibility());
+Bar::ButtonStatusPossibilities Bar::DealerStrengthButtonsVisibility() const {
+  return Get<ButtonStatusPossibilities>(&Core::DealerStrengthButtonsVisibility);
 }
-void DecisionToolBarControl::HitcardButtonsVisibility(ButtonStatusPossibilities visibility) {
-  bar_->HitcardButtonsVisibility(FromQt(visibility));
+Bar::ButtonStatusPossibilities Bar::StatusButtonButtonVisibility() const {
+  return GetOr(ButtonsAreInvisible, &Core::StatusButtonButtonVisibility);
 }
-Bar::ButtonStatusPossibilities DecisionToolBarControl::HolecardButtonsVisibility() const {
-  return ToQt(bar_->HolecardButtonsVisibility());
-}
-void DecisionToolBarControl::HolecardButtonsVisibility(ButtonStatusPossibilities visibility) {
-  bar_->HolecardButtonsVisibility(FromQt(visibility));
-}
-Bar::ButtonStatusPossibilities DecisionToolBarControl::TensRatioButtonVisibility() const {
-  return ToQt(bar_->TensRatioButtonVisibility());
-}
-void DecisionToolBarControl::TensRatioButtonVisibility(ButtonStatusPossibilities visibility) {
-  bar_->TensRatioButtonVisibility(FromQt(visibility));
-}
-Bar::ButtonStatusPossibilities DecisionToolBarControl::DealerStrengthButtonsVisibility() const {
-  return ToQt(bar_->DealerStrengthButtonsVisibility());
-}
-void DecisionToolBarControl::DealerStrengthButtonsVisibility(ButtonStatusPossibilities visibility) {
-  bar_->DealerStrengthButtonsVisibility(FromQt(visibility));
-}
-Bar::ButtonStatusPossibilities DecisionToolBarControl::StatusButtonButtonVisibility() const {
-  return ToQt(bar_->StatusButtonButtonVisibility());
-}
-void DecisionToolBarControl::StatusButtonButtonVisibility(ButtonStatusPossibilities visibility) {
-  bar_->StatusButtonButtonVisibility(FromQt(visibility));
+int Bar::thisKelvoEdition() const { return Get<int>(&Core::thisKelvoEdition); }
+ObjectRef Bar::KelvoEdition() const { return GetOr(ObjectRef(), &Core::KelvoEdition); }
+bool Bar::ResetPredictionButtons() const { return Get<bool>(&Core::ResetPredictionButtons); }
+DecisionBARResponseObject Bar::GiveMeYourResponseData() const {
+  return Get<DecisionBARResponseObject>(&Core::GiveMeYourResponseData);
 }
 
-void DecisionToolBarControl::PlugHitcardButtons(ButtonStatusPossibilities buttonGroupStatus) {
-  bar_->PlugHitcardButtons(FromQt(buttonGroupStatus));
+void Bar::setAlignment(DecisionBARAlignment alignment) { Call(&Core::Alignment, alignment); }
+void Bar::setHitcardButtonsVisibility(ButtonStatusPossibilities visibility) {
+  Call(&Core::HitcardButtonsVisibility, visibility);
 }
-void DecisionToolBarControl::PlugHoleCardButtons(ButtonStatusPossibilities buttonGroupStatus) {
-  bar_->PlugHoleCardButtons(FromQt(buttonGroupStatus));
+void Bar::setHolecardButtonsVisibility(ButtonStatusPossibilities visibility) {
+  Call(&Core::HolecardButtonsVisibility, visibility);
 }
-void DecisionToolBarControl::PlugTensRatioButtons(ButtonStatusPossibilities buttonGroupStatus) {
-  bar_->PlugTensRatioButtons(FromQt(buttonGroupStatus));
+void Bar::setTensRatioButtonVisibility(ButtonStatusPossibilities visibility) {
+  Call(&Core::TensRatioButtonVisibility, visibility);
 }
-void DecisionToolBarControl::PlugDealerStrengthButtons(ButtonStatusPossibilities buttonGroupStatus) {
-  bar_->PlugDealerStrengthButtons(FromQt(buttonGroupStatus));
+void Bar::setDealerStrengthButtonsVisibility(ButtonStatusPossibilities visibility) {
+  Call(&Core::DealerStrengthButtonsVisibility, visibility);
 }
-void DecisionToolBarControl::PlugStatusButton(ButtonStatusPossibilities buttonStatus) {
-  bar_->PlugStatusButton(FromQt(buttonStatus));
+void Bar::setStatusButtonButtonVisibility(ButtonStatusPossibilities visibility) {
+  Call(&Core::StatusButtonButtonVisibility, visibility);
 }
+void Bar::setKelvoEdition(const ObjectRef& edition) { Call(&Core::KelvoEdition, edition); }
+void Bar::setResetPredictionButtons(bool reset) { Call(&Core::ResetPredictionButtons, reset); }
 
-int DecisionToolBarControl::thisKelvoEdition() const { return bar_->thisKelvoEdition(); }
-ObjectRef DecisionToolBarControl::KelvoEdition() const { return bar_->KelvoEdition(); }
-void DecisionToolBarControl::KelvoEdition(const ObjectRef& edition) { bar_->KelvoEdition(edition); }
-void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdition) {
-  bar_->TheKelvoEditionIs(theShortKelvoEdition);
+void Bar::PlugHitcardButtons(ButtonStatusPossibilities status) { Call(&Core::PlugHitcardButtons, status); }
+void Bar::PlugHoleCardButtons(ButtonStatusPossibilities status) { Call(&Core::PlugHoleCardButtons, status); }
+void Bar::PlugTensRatioButtons(ButtonStatusPossibilities status) { Call(&Core::PlugTensRatioButtons, status); }
+void Bar::PlugDealerStrengthButtons(ButtonStatusPossibilities status) {
+  Call(&Core::PlugDealerStrengthButtons, status);
 }
+void Bar::PlugStatusButton(ButtonStatusPossibilities status) { Call(&Core::PlugStatusButton, status); }
+void Bar::TheKelvoEditionIs(const ObjectRef& edition) { Call(&Core::TheKelvoEditionIs, edition); }
 
-bool DecisionToolBarControl::ResetPredictionButtons() const { return bar_->ResetPredictionButtons(); }
-void DecisionToolBarControl::ResetPredictionButtons(bool reset) { bar_->ResetPredictionButtons(reset); }
-DecisionBARResponseObject DecisionToolBarControl::GiveMeYourResponseData() const {
-  return bar_->GiveMeYourResponseData();
+void Bar::SetupTheDecisionBAR(const DecisionBlock& block) {
+  Run([&](Core& bar) { bar.SetupTheDecisionBAR(block); });
 }
-
-void DecisionToolBarControl::SetupTheDecisionBAR(const DecisionBlock& thisDCB) { bar_->SetupTheDecisionBAR(thisDCB); }
-void DecisionToolBarControl::SetupTheDecisionBAR(const Variant& thisDCB) { bar_->SetupTheDecisionBAR(thisDCB); }
-void DecisionToolBarControl::SetupDecisionBAR(const DecisionBlock& thisDCB, const ObjectRef& userKelvoEdition) {
-  bar_->SetupDecisionBAR(thisDCB, userKelvoEdition);
+void Bar::SetupTheDecisionBAR(const Variant& block) {
+  Run([&](Core& bar) { bar.SetupTheDecisionBAR(block); });
 }
-void DecisionToolBarControl::SetupDecisionBAR(const Variant& thisDCB, const ObjectRef& userKelvoEdition) {
-  bar_->SetupDecisionBAR(thisDCB, userKelvoEdition);
+void Bar::SetupDecisionBAR(const DecisionBlock& block, const ObjectRef& edition) {
+  Run([&](Core& bar) { bar.SetupDecisionBAR(block, edition); });
 }
-void DecisionToolBarControl::SetupPlayButtons(const DecisionBlock& thisDCB) { bar_->SetupPlayButtons(thisDCB); }
-void DecisionToolBarControl::SetupPlayButtons(const Variant& thisDCB) { bar_->SetupPlayButtons(thisDCB); }
-void DecisionToolBarControl::HereIsTheDCB(const DecisionBlock& thisDCB) { bar_->HereIsTheDCB(thisDCB); }
-void DecisionToolBarControl::HereIsTheDCB(const Variant& thisDCB) { bar_->HereIsTheDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const DecisionBlock& thisDCB) { bar_->DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::DecodeThisDCB(const Variant& thisDCB) { bar_->DecodeThisDCB(thisDCB); }
-void DecisionToolBarControl::GetReadyForADecision() { bar_->GetReadyForADecision(); }
-void DecisionToolBarControl::ResetYourResponseData() { bar_->ResetYourResponseData(); }
-void DecisionToolBarControl::FlashObject(const ObjectRef& buttonToFlash) { bar_->FlashObject(buttonToFlash); }
-void DecisionToolBarControl::BlinkTime(float timeAmount) { bar_->BlinkTime(timeAmount); }
+void Bar::SetupDecisionBAR(const Variant& block, const ObjectRef& edition) {
+  Run([&](Core& bar) { bar.SetupDecisionBAR(block, edition); });
+}
+void Bar::SetupPlayButtons(const DecisionBlock& block) {
+  Run([&](Core& bar) { bar.SetupPlayButtons(block); });
+}
+void Bar::SetupPlayButtons(const Variant& block) {
+  Run([&](Core& bar) { bar.SetupPlayButtons(block); });
+}
+void Bar::HereIsTheDCB(const DecisionBlock& block) {
+  Run([&](Core& bar) { bar.HereIsTheDCB(block); });
+}
+void Bar::HereIsTheDCB(const Variant& block) {
+  Run([&](Core& bar) { bar.HereIsTheDCB(block); });
+}
+void Bar::DecodeThisDCB(const DecisionBlock& block) {
+  Run([&](Core& bar) { bar.DecodeThisDCB(block); });
+}
+void Bar::DecodeThisDCB(const Variant& block) {
+  Run([&](Core& bar) { bar.DecodeThisDCB(block); });
+}
+void Bar::GetReadyForADecision() { Call(&Core::GetReadyForADecision); }
+void Bar::ResetYourResponseData() { Call(&Core::ResetYourResponseData); }
+void Bar::FlashObject(const ObjectRef& button) { Call(&Core::FlashObject, button); }
+void Bar::BlinkTime(float seconds) { Call(&Core::BlinkTime, seconds); }
 
 }  // namespace tactix::qt

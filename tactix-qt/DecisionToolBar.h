@@ -2,90 +2,121 @@
 
 #include <QString>
 #include <cstdint>
-#include <memory>
 
-#include "tactix-qt/ControlWidget.h"
 #include "tactix-qt/Export.h"
+#include "tactix-qt/WidgetOf.h"
 #include "tactix/decision/DecisionToolBar.h"
 
 namespace tactix::qt {
 
-/// What the two decision toolbars have in common as widgets: the properties, signals and slots of
-/// tactix::DecisionToolBarControl.
-class TACTIX_QT_EXPORT DecisionToolBarControl : public ControlWidget {
+/// What the two decision toolbars have in common as widgets, see WidgetOf and tactix::DecisionToolBarControl. Slots
+/// that take a block fail as the toolbar's do.
+class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::DecisionToolBarControl> {
   Q_OBJECT
-  Q_PROPERTY(DecisionBARAlignment Alignment READ Alignment WRITE Alignment)
-  Q_PROPERTY(
-      ButtonStatusPossibilities HitcardButtonsVisibility READ HitcardButtonsVisibility WRITE HitcardButtonsVisibility)
+  Q_PROPERTY(DecisionBARAlignment Alignment READ Alignment WRITE setAlignment)
+  Q_PROPERTY(ButtonStatusPossibilities HitcardButtonsVisibility READ HitcardButtonsVisibility WRITE
+                 setHitcardButtonsVisibility)
   Q_PROPERTY(ButtonStatusPossibilities HolecardButtonsVisibility READ HolecardButtonsVisibility WRITE
-                 HolecardButtonsVisibility)
+                 setHolecardButtonsVisibility)
   Q_PROPERTY(ButtonStatusPossibilities TensRatioButtonVisibility READ TensRatioButtonVisibility WRITE
-                 TensRatioButtonVisibility)
+                 setTensRatioButtonVisibility)
   Q_PROPERTY(ButtonStatusPossibilities DealerStrengthButtonsVisibility READ DealerStrengthButtonsVisibility WRITE
-                 DealerStrengthButtonsVisibility)
+                 setDealerStrengthButtonsVisibility)
   Q_PROPERTY(ButtonStatusPossibilities StatusButtonButtonVisibility READ StatusButtonButtonVisibility WRITE
-                 StatusButtonButtonVisibility)
+                 setStatusButtonButtonVisibility)
   Q_PROPERTY(int thisKelvoEdition READ thisKelvoEdition STORED false DESIGNABLE false)
-  Q_PROPERTY(tactix::ObjectRef KelvoEdition READ KelvoEdition WRITE KelvoEdition STORED false DESIGNABLE false)
-  Q_PROPERTY(bool ResetPredictionButtons READ ResetPredictionButtons WRITE ResetPredictionButtons STORED false)
+  Q_PROPERTY(tactix::ObjectRef KelvoEdition READ KelvoEdition WRITE setKelvoEdition STORED false DESIGNABLE false)
+  Q_PROPERTY(bool ResetPredictionButtons READ ResetPredictionButtons WRITE setResetPredictionButtons STORED false)
 
  public:
   /// The rows of tactix::DecisionBARAlignment. Other numbers are kept, too.
   enum DecisionBARAlignment : std::int32_t {
-    DBAlignNone = 0,
-    DBAlignTop = 1,
-    DBAlignBottom = 2,
-    DBAlignLeft = 3,
-    DBAlignRight = 4
+    DBAlignNone = int(tactix::DecisionBARAlignment::DBAlignNone),
+    DBAlignTop = int(tactix::DecisionBARAlignment::DBAlignTop),
+    DBAlignBottom = int(tactix::DecisionBARAlignment::DBAlignBottom),
+    DBAlignLeft = int(tactix::DecisionBARAlignment::DBAlignLeft),
+    DBAlignRight = int(tactix::DecisionBARAlignment::DBAlignRight),
   };
   Q_ENUM(DecisionBARAlignment)
   /// The rows of tactix::ButtonStatusPossibilities that a visibility has. Any number but 0 shows.
-  enum ButtonStatusPossibilities : std::int32_t { ButtonsArevisible = -1, ButtonsAreInvisible = 0 };
+  enum ButtonStatusPossibilities : std::int32_t {
+    ButtonsArevisible = int(tactix::ButtonStatusPossibilities::ButtonsArevisible),
+    ButtonsAreInvisible = int(tactix::ButtonStatusPossibilities::ButtonsAreInvisible),
+  };
   Q_ENUM(ButtonStatusPossibilities)
 
   ~DecisionToolBarControl() override;
 
+  /// The docking, DBAlignBottom by default.
   DecisionBARAlignment Alignment() const;
+  /// Whether a group's buttons are shown, ButtonsAreInvisible by default; a group follows from the first write on.
   ButtonStatusPossibilities HitcardButtonsVisibility() const;
   ButtonStatusPossibilities HolecardButtonsVisibility() const;
   ButtonStatusPossibilities TensRatioButtonVisibility() const;
   ButtonStatusPossibilities DealerStrengthButtonsVisibility() const;
   /// Re-applies the dealer-strength buttons and reads 0 whatever was set.
   ButtonStatusPossibilities StatusButtonButtonVisibility() const;
+  /// The edition code last read, 0 by default.
   int thisKelvoEdition() const;
-  ObjectRef KelvoEdition() const;
+  /// The edition object. Reading it while there is none creates one, and fails with 91 where nothing creates editions,
+  /// see tactix::DefaultEdition.
+  tactix::ObjectRef KelvoEdition() const;
+  /// Whether GetReadyForADecision clears the predictions, false by default.
   bool ResetPredictionButtons() const;
-  DecisionBARResponseObject GiveMeYourResponseData() const;
+  /// The player's predictions.
+  Q_INVOKABLE tactix::DecisionBARResponseObject GiveMeYourResponseData() const;
 
  public Q_SLOTS:
-  void Alignment(DecisionBARAlignment alignment);
-  void HitcardButtonsVisibility(ButtonStatusPossibilities visibility);
-  void HolecardButtonsVisibility(ButtonStatusPossibilities visibility);
-  void TensRatioButtonVisibility(ButtonStatusPossibilities visibility);
-  void DealerStrengthButtonsVisibility(ButtonStatusPossibilities visibility);
-  void StatusButtonButtonVisibility(ButtonStatusPossibilities visibility);
+  void setAlignment(DecisionBARAlignment alignment);
+  void setHitcardButtonsVisibility(ButtonStatusPossibilities visibility);
+  void setHolecardButtonsVisibility(ButtonStatusPossibilities visibility);
+  void setTensRatioButtonVisibility(ButtonStatusPossibilities visibility);
+  void setDealerStrengthButtonsVisibility(ButtonStatusPossibilities visibility);
+  void setStatusButtonButtonVisibility(ButtonStatusPossibilities visibility);
+  void setKelvoEdition(const tactix::ObjectRef& edition);
+  void setResetPredictionButtons(bool reset);
+  void Alignment(DecisionBARAlignment alignment) { setAlignment(alignment); }
+  void HitcardButtonsVisibility(ButtonStatusPossibilities visibility) { setHitcardButtonsVisibility(visibility); }
+  void HolecardButtonsVisibility(ButtonStatusPossibilities visibility) { setHolecardButtonsVisibility(visibility); }
+  void TensRatioButtonVisibility(ButtonStatusPossibilities visibility) { setTensRatioButtonVisibility(visibility); }
+  void DealerStrengthButtonsVisibility(ButtonStatusPossibilities visibility) {
+    setDealerStrengthButtonsVisibility(visibility);
+  }
+  void StatusButtonButtonVisibility(ButtonStatusPossibilities visibility) {
+    setStatusButtonButtonVisibility(visibility);
+  }
+  void KelvoEdition(const tactix::ObjectRef& edition) { setKelvoEdition(edition); }
+  void ResetPredictionButtons(bool reset) { setResetPredictionButtons(reset); }
+
+  /// Show or hide a group's buttons, without storing anything.
   void PlugHitcardButtons(ButtonStatusPossibilities buttonGroupStatus);
   void PlugHoleCardButtons(ButtonStatusPossibilities buttonGroupStatus);
   void PlugTensRatioButtons(ButtonStatusPossibilities buttonGroupStatus);
   void PlugDealerStrengthButtons(ButtonStatusPossibilities buttonGroupStatus);
   void PlugStatusButton(ButtonStatusPossibilities buttonStatus);
-  void KelvoEdition(const tactix::ObjectRef& edition);
+  /// Reads the edition's code. Null fails with 91.
   void TheKelvoEditionIs(const tactix::ObjectRef& theShortKelvoEdition);
-  void ResetPredictionButtons(bool reset);
 
+  /// Copies the block, sees to it that there is an edition, and does what SetupDecisionBAR does.
   void SetupTheDecisionBAR(const tactix::DecisionBlock& thisDCB);
   void SetupTheDecisionBAR(const tactix::Variant& thisDCB);
+  /// Keeps the edition, enables the plays that the block allows, takes its advice and emits the prompt.
   void SetupDecisionBAR(const tactix::DecisionBlock& thisDCB, const tactix::ObjectRef& userKelvoEdition);
   void SetupDecisionBAR(const tactix::Variant& thisDCB, const tactix::ObjectRef& userKelvoEdition);
+  /// Enables the plays that the block allows.
   void SetupPlayButtons(const tactix::DecisionBlock& thisDCB);
   void SetupPlayButtons(const tactix::Variant& thisDCB);
+  /// Copy the block.
   void HereIsTheDCB(const tactix::DecisionBlock& thisDCB);
   void HereIsTheDCB(const tactix::Variant& thisDCB);
   void DecodeThisDCB(const tactix::DecisionBlock& thisDCB);
   void DecodeThisDCB(const tactix::Variant& thisDCB);
   void GetReadyForADecision();
+  /// Clears the predictions.
   void ResetYourResponseData();
+  /// Flashes an object that has "Enabled" for 1.6 seconds, and waits for that.
   void FlashObject(const tactix::ObjectRef& buttonToFlash);
+  /// Waits that many seconds; fails with 380 for a time that is negative or not finite.
   void BlinkTime(float timeAmount);
 
  Q_SIGNALS:
@@ -102,11 +133,7 @@ class TACTIX_QT_EXPORT DecisionToolBarControl : public ControlWidget {
   void HereIsAResponseBlock(const tactix::DecisionBARResponseObject& responseBlock);
 
  protected:
-  using Maker = std::unique_ptr<tactix::DecisionToolBarControl>(Site& site);
-  DecisionToolBarControl(Maker& make, QWidget* parent);
-
- private:
-  tactix::DecisionToolBarControl* bar_ = nullptr;
+  DecisionToolBarControl(Maker make, QWidget* parent);
 };
 
 }  // namespace tactix::qt

@@ -1,20 +1,15 @@
 #include "tactix-qt/DualCardCountDisplay.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-DualCardCountDisplay::DualCardCountDisplay(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::DualCardCountDisplay>(ItsSite());
-  display_ = control.get();
-  Own(std::move(control));
-}
+DualCardCountDisplay::DualCardCountDisplay(QWidget* parent) : WidgetOf(parent) {}
 
 DualCardCountDisplay::~DualCardCountDisplay() { EndControl(); }
 
-void DualCardCountDisplay::TrueCountValue(int value) { display_->TrueCountValue(value); }
-void DualCardCountDisplay::RunningCountValue(int value) { display_->RunningCountValue(value); }
-void DualCardCountDisplay::ShadowBoxStatus(int status) { display_->ShadowBoxStatus(status); }
+void DualCardCountDisplay::TrueCountValue(int value) { Call(&Core::TrueCountValue, value); }
+void DualCardCountDisplay::RunningCountValue(int value) { Call(&Core::RunningCountValue, value); }
+void DualCardCountDisplay::ShadowBoxStatus(int status) { Call(&Core::ShadowBoxStatus, status); }
 
 }  // namespace tactix::qt

@@ -1,29 +1,25 @@
 #pragma once
 
-#include "tactix-qt/ControlWidget.h"
 #include "tactix-qt/Export.h"
+#include "tactix-qt/WidgetOf.h"
 #include "tactix/counting/DualCardCountDisplay.h"
 
 namespace tactix::qt {
 
-/// The dual count display as a widget: tactix::DualCardCountDisplay with its slots. ShadowBoxStatus takes a colour, see
-/// CardCountDisplayBox::ShadowBoxingConstants.
-class TACTIX_QT_EXPORT DualCardCountDisplay : public ControlWidget {
+/// The dual count display as a widget, see WidgetOf and tactix::DualCardCountDisplay.
+class TACTIX_QT_EXPORT DualCardCountDisplay : public WidgetOf<tactix::DualCardCountDisplay> {
   Q_OBJECT
 
  public:
   explicit DualCardCountDisplay(QWidget* parent = nullptr);
   ~DualCardCountDisplay() override;
 
-  tactix::DualCardCountDisplay& control() const { return *display_; }
-
  public Q_SLOTS:
+  /// Show a value in one of the boxes.
   void TrueCountValue(int value);
   void RunningCountValue(int value);
+  /// The colour behind both values, 0x00BBGGRR, see CardCountDisplayBox::ShadowBoxingConstants.
   void ShadowBoxStatus(int status);
-
- private:
-  tactix::DualCardCountDisplay* display_;
 };
 
 }  // namespace tactix::qt

@@ -1,17 +1,16 @@
 #include "tactix-qt/HitStandLegend.h"
 
+#include "tactix-qt/Forwarding.h"
+
 namespace tactix::qt {
 
-HitStandLegend::HitStandLegend(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::HitStandLegend>(ItsSite());
-  legend_ = control.get();
-  Own(std::move(control));
-  tactix::HitStandLegend::EventSet& events = legend_->Events;
-  events.HitWasSelected.Connect([this] { Q_EMIT HitWasSelected(); });
-  events.StandWasSelected.Connect([this] { Q_EMIT StandWasSelected(); });
-  events.SplitWasSelected.Connect([this] { Q_EMIT SplitWasSelected(); });
-  events.DoubleWasSelected.Connect([this] { Q_EMIT DoubleWasSelected(); });
-  events.SurrenderWasSelected.Connect([this] { Q_EMIT SurrenderWasSelected(); });
+HitStandLegend::HitStandLegend(QWidget* parent) : WidgetOf(parent) {
+  using Events = Core::EventSet;
+  Relay(&Events::HitWasSelected, &HitStandLegend::HitWasSelected);
+  Relay(&Events::StandWasSelected, &HitStandLegend::StandWasSelected);
+  Relay(&Events::SplitWasSelected, &HitStandLegend::SplitWasSelected);
+  Relay(&Events::DoubleWasSelected, &HitStandLegend::DoubleWasSelected);
+  Relay(&Events::SurrenderWasSelected, &HitStandLegend::SurrenderWasSelected);
 }
 
 HitStandLegend::~HitStandLegend() { EndControl(); }

@@ -1,21 +1,17 @@
 #include "tactix-qt/NumberedStrategyList.h"
 
-#include <utility>
-
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-NumberedStrategyList::~NumberedStrategyList() { EndControl(); }
-
-void NumberedStrategyList::Take(std::unique_ptr<tactix::NumberedStrategyList> list) {
-  list_ = list.get();
-  StrategyListControl::Take(std::move(list));
-  list_->Events.StrategySelectionChanged.Connect(
-      [this](const std::int32_t& strategy) { Q_EMIT StrategySelectionChanged(strategy); });
+NumberedStrategyList::NumberedStrategyList(Maker make, QWidget* parent) : WidgetOf(make, parent) {
+  Relay(&Core::EventSet::StrategySelectionChanged, &NumberedStrategyList::StrategySelectionChanged);
 }
 
-int NumberedStrategyList::SelectThisStrategy() const { return list_->SelectThisStrategy(); }
-void NumberedStrategyList::SelectThisStrategy(int strategy) { list_->SelectThisStrategy(ToInt16(strategy)); }
+NumberedStrategyList::~NumberedStrategyList() { EndControl(); }
+
+// The row is ListIndex's, and so is the default.
+int NumberedStrategyList::SelectThisStrategy() const { return ListIndex(); }
+void NumberedStrategyList::setSelectThisStrategy(int strategy) { Call(&Core::SelectThisStrategy, strategy); }
 
 }  // namespace tactix::qt

@@ -1,42 +1,35 @@
 #include "tactix-qt/SpinCounter.h"
 
-#include <memory>
-#include <utility>
-
-#include "tactix-qt/Convert.h"
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-SpinCounter::SpinCounter(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::SpinCounter>(ItsSite());
-  counter_ = control.get();
-  Own(std::move(control));
+SpinCounter::SpinCounter(QWidget* parent) : WidgetOf(parent) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-  counter_->Events.CounterValueHasChanged.Connect(
-      [this](const std::int16_t& value) { Q_EMIT CounterValueHasChanged(value); });
+  Relay(&Core::EventSet::CounterValueHasChanged, &SpinCounter::CounterValueHasChanged);
 }
 
 SpinCounter::~SpinCounter() { EndControl(); }
 
-int SpinCounter::MaximumLimit() const { return counter_->MaximumLimit(); }
-void SpinCounter::MaximumLimit(int limit) { counter_->MaximumLimit(ToInt16(limit)); }
-bool SpinCounter::NumberWrap() const { return counter_->NumberWrap(); }
-void SpinCounter::NumberWrap(bool wrap) { counter_->NumberWrap(wrap); }
-bool SpinCounter::AllowNegNumbers() const { return counter_->AllowNegNumbers(); }
-void SpinCounter::AllowNegNumbers(bool allow) { counter_->AllowNegNumbers(allow); }
-int SpinCounter::CounterValue() const { return counter_->CounterValue(); }
-void SpinCounter::CounterValue(int value) { counter_->CounterValue(ToInt16(value)); }
+int SpinCounter::MaximumLimit() const { return Get<int>(&Core::MaximumLimit); }
+bool SpinCounter::NumberWrap() const { return Get<bool>(&Core::NumberWrap); }
+bool SpinCounter::AllowNegNumbers() const { return Get<bool>(&Core::AllowNegNumbers); }
+int SpinCounter::CounterValue() const { return GetOr(0, &Core::CounterValue); }
 SpinCounter::SpinCounterPossibilities SpinCounter::ControlHandedness() const {
-  return static_cast<SpinCounterPossibilities>(counter_->ControlHandedness().Value());
+  return Get<SpinCounterPossibilities>(&Core::ControlHandedness);
 }
-void SpinCounter::ControlHandedness(SpinCounterPossibilities handedness) {
-  counter_->ControlHandedness(static_cast<std::int32_t>(handedness));
+QFont SpinCounter::Font() const { return Get<QFont>(&Core::Font); }
+bool SpinCounter::UseDefaultSize() const { return Get<bool>(&Core::UseDefaultSize); }
+
+void SpinCounter::setMaximumLimit(int limit) { Call(&Core::MaximumLimit, limit); }
+void SpinCounter::setNumberWrap(bool wrap) { Call(&Core::NumberWrap, wrap); }
+void SpinCounter::setAllowNegNumbers(bool allow) { Call(&Core::AllowNegNumbers, allow); }
+void SpinCounter::setCounterValue(int value) { Call(&Core::CounterValue, value); }
+void SpinCounter::setControlHandedness(SpinCounterPossibilities handedness) {
+  Call(&Core::ControlHandedness, handedness);
 }
-QFont SpinCounter::Font() const { return ToQt(counter_->Font()); }
-void SpinCounter::Font(const QFont& font) { counter_->Font(FromQt(font)); }
-bool SpinCounter::UseDefaultSize() const { return counter_->UseDefaultSize(); }
-void SpinCounter::UseDefaultSize(bool use) { counter_->UseDefaultSize(use); }
-void SpinCounter::ResetSizeToDefault() { counter_->ResetSizeToDefault(); }
+void SpinCounter::setControlFont(const QFont& font) { Call(&Core::Font, font); }
+void SpinCounter::setUseDefaultSize(bool use) { Call(&Core::UseDefaultSize, use); }
+void SpinCounter::ResetSizeToDefault() { Call(&Core::ResetSizeToDefault); }
 
 }  // namespace tactix::qt

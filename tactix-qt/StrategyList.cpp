@@ -1,16 +1,13 @@
 #include "tactix-qt/StrategyList.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-StrategyList::StrategyList(QWidget* parent) : NumberedStrategyList(parent) {
-  auto control = std::make_unique<tactix::StrategyList>(ItsSite());
-  list_ = control.get();
-  Take(std::move(control));
-}
+StrategyList::StrategyList(QWidget* parent) : WidgetOf(parent) {}
 
-void StrategyList::InputPlayingStrategyDescriptions() { list_->InputPlayingStrategyDescriptions(); }
+StrategyList::~StrategyList() { EndControl(); }
+
+void StrategyList::InputPlayingStrategyDescriptions() { Call(&Core::InputPlayingStrategyDescriptions); }
 
 }  // namespace tactix::qt

@@ -2,24 +2,22 @@
 
 #include "tactix-qt/Export.h"
 #include "tactix-qt/NumberedStrategyList.h"
+#include "tactix-qt/WidgetOf.h"
 #include "tactix/strategy/StrategyList.h"
 
 namespace tactix::qt {
 
-/// The playing strategy list as a widget: tactix::StrategyList with its properties, signals and slots.
-class TACTIX_QT_EXPORT StrategyList : public NumberedStrategyList {
+/// The playing strategy list as a widget, see tactix::StrategyList.
+class TACTIX_QT_EXPORT StrategyList : public WidgetOf<tactix::StrategyList, NumberedStrategyList> {
   Q_OBJECT
 
  public:
   explicit StrategyList(QWidget* parent = nullptr);
-
-  tactix::StrategyList& control() const { return *list_; }
+  ~StrategyList() override;
 
  public Q_SLOTS:
+  /// Refills the box from the catalogue. Fails as the catalogue fails.
   void InputPlayingStrategyDescriptions();
-
- private:
-  tactix::StrategyList* list_;
 };
 
 }  // namespace tactix::qt

@@ -1,49 +1,53 @@
 #include "tactix-qt/StrategyListControl.h"
 
-#include <utility>
+#include <optional>
 
-#include "tactix-qt/Convert.h"
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-void StrategyListControl::Take(std::unique_ptr<tactix::StrategyListControl> list) {
-  list_ = list.get();
-  Own(std::move(list));
-}
+namespace {
 
-QColor StrategyListControl::BackColor() const { return OwnColor(list_->BackColor()); }
-void StrategyListControl::BackColor(const QColor& color) { list_->BackColor(ColorOr(color, WindowColor)); }
-QColor StrategyListControl::ForeColor() const { return OwnColor(list_->ForeColor()); }
-void StrategyListControl::ForeColor(const QColor& color) { list_->ForeColor(ColorOr(color, WindowTextColor)); }
-bool StrategyListControl::Enabled() const { return list_->Enabled(); }
-void StrategyListControl::Enabled(bool enabled) { list_->Enabled(enabled); }
-QFont StrategyListControl::Font() const { return ToQt(list_->Font()); }
-void StrategyListControl::Font(const QFont& font) { list_->Font(FromQt(font)); }
-QString StrategyListControl::Text() const { return ToQt(list_->Text()); }
-void StrategyListControl::Text(const QString& text) { list_->Text(FromQt(text)); }
-QString StrategyListControl::ToolTipText() const { return ToQt(list_->ToolTipText()); }
-void StrategyListControl::ToolTipText(const QString& text) { list_->ToolTipText(FromQt(text)); }
-QString StrategyListControl::DefaultContent() const { return ToQt(list_->DefaultContent()); }
-void StrategyListControl::DefaultContent(const QString& text) { list_->DefaultContent(FromQt(text)); }
+// What ListIndex reads where no row is selected.
+constexpr int NoRow = -2;
+
+}  // namespace
+
+StrategyListControl::StrategyListControl(Maker make, QWidget* parent) : WidgetOf(make, parent) {}
+
+StrategyListControl::~StrategyListControl() { EndControl(); }
+
+QColor StrategyListControl::BackColor() const { return Get<QColor>(&Core::BackColor); }
+QColor StrategyListControl::ForeColor() const { return Get<QColor>(&Core::ForeColor); }
+bool StrategyListControl::Enabled() const { return Get<bool>(&Core::Enabled); }
+QFont StrategyListControl::Font() const { return Get<QFont>(&Core::Font); }
+QString StrategyListControl::Text() const { return Get<QString>(&Core::Text); }
+QString StrategyListControl::ToolTipText() const { return Get<QString>(&Core::ToolTipText); }
+QString StrategyListControl::DefaultContent() const { return Get<QString>(&Core::DefaultContent); }
 StrategyListControl::TypeOfStrategyControl StrategyListControl::ControlType() const {
-  return static_cast<TypeOfStrategyControl>(list_->ControlType().Value());
+  return Get<TypeOfStrategyControl>(&Core::ControlType);
 }
-void StrategyListControl::ControlType(TypeOfStrategyControl type) {
-  list_->ControlType(static_cast<std::int32_t>(type));
-}
-int StrategyListControl::ListIndex() const { return list_->ListIndex(); }
-void StrategyListControl::ListIndex(int strategy) { list_->ListIndex(ToInt16(strategy)); }
-int StrategyListControl::Style() const { return list_->Style(); }
-bool StrategyListControl::Visible() const { return list_->Visible(); }
-void StrategyListControl::Visible(bool visible) { list_->Visible(visible); }
-int StrategyListControl::StrategyCount() const { return list_->StrategyCount(); }
+int StrategyListControl::ListIndex() const { return GetOr(NoRow, &Core::ListIndex); }
+int StrategyListControl::Style() const { return Get<int>(&Core::Style); }
+bool StrategyListControl::Visible() const { return Get<bool>(&Core::Visible); }
+int StrategyListControl::StrategyCount() const { return Get<int>(&Core::StrategyCount); }
 
-void StrategyListControl::AddItem(const QString& item) { list_->AddItem(FromQt(item)); }
-void StrategyListControl::AddItem(const QString& item, int index) { list_->AddItem(FromQt(item), index); }
-void StrategyListControl::LoadStrategiesFromIniFile() { list_->LoadStrategiesFromIniFile(); }
+void StrategyListControl::setBackColor(const QColor& color) { Call(&Core::BackColor, ColorOr(color, WindowColor)); }
+void StrategyListControl::setForeColor(const QColor& color) { Call(&Core::ForeColor, ColorOr(color, WindowTextColor)); }
+void StrategyListControl::setControlEnabled(bool enabled) { Call(&Core::Enabled, enabled); }
+void StrategyListControl::setControlFont(const QFont& font) { Call(&Core::Font, font); }
+void StrategyListControl::setText(const QString& text) { Call(&Core::Text, text); }
+void StrategyListControl::setToolTipText(const QString& text) { Call(&Core::ToolTipText, text); }
+void StrategyListControl::setDefaultContent(const QString& text) { Call(&Core::DefaultContent, text); }
+void StrategyListControl::setControlType(TypeOfStrategyControl type) { Call(&Core::ControlType, type); }
+void StrategyListControl::setListIndex(int strategy) { Call(&Core::ListIndex, strategy); }
+void StrategyListControl::setControlVisible(bool visible) { Call(&Core::Visible, visible); }
+
+void StrategyListControl::AddItem(const QString& item) { Call(&Core::AddItem, item, std::nullopt); }
+void StrategyListControl::AddItem(const QString& item, int index) { Call(&Core::AddItem, item, index); }
+void StrategyListControl::LoadStrategiesFromIniFile() { Call(&Core::LoadStrategiesFromIniFile); }
 void StrategyListControl::UseThisStrategyList(const ObjectRef& thisStrategyList) {
-  list_->UseThisStrategyList(thisStrategyList);
+  Call(&Core::UseThisStrategyList, thisStrategyList);
 }
 
 }  // namespace tactix::qt

@@ -1,16 +1,13 @@
 #include "tactix-qt/StrategyListLITE.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-StrategyListLITE::StrategyListLITE(QWidget* parent) : NumberedStrategyList(parent) {
-  auto control = std::make_unique<tactix::StrategyListLITE>(ItsSite());
-  list_ = control.get();
-  Take(std::move(control));
-}
+StrategyListLITE::StrategyListLITE(QWidget* parent) : WidgetOf(parent) {}
 
-void StrategyListLITE::InputPlayingStrategyDescriptions() { list_->InputPlayingStrategyDescriptions(); }
+StrategyListLITE::~StrategyListLITE() { EndControl(); }
+
+void StrategyListLITE::InputPlayingStrategyDescriptions() { Call(&Core::InputPlayingStrategyDescriptions); }
 
 }  // namespace tactix::qt

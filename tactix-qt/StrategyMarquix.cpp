@@ -1,52 +1,53 @@
 #include "tactix-qt/StrategyMarquix.h"
 
-#include <memory>
-#include <utility>
-
-#include "tactix-qt/Convert.h"
-#include "tactix-qt/Integers.h"
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-StrategyMarquix::StrategyMarquix(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::StrategyMarquix>(ItsSite());
-  marquee_ = control.get();
-  Own(std::move(control));
-  tactix::StrategyMarquix::EventSet& events = marquee_->Events;
-  events.BettingStrategySelected.Connect([this](std::int16_t index) { Q_EMIT BettingStrategySelected(index); });
-  events.PlayingStrategySelected.Connect([this](std::int16_t index) { Q_EMIT PlayingStrategySelected(index); });
-  events.StrategySelectionChanged.Connect(
-      [this](const std::int32_t& strategy) { Q_EMIT StrategySelectionChanged(strategy); });
+namespace {
+
+// What ListIndex reads where no row is selected.
+constexpr int NoRow = -2;
+
+}  // namespace
+
+StrategyMarquix::StrategyMarquix(QWidget* parent) : WidgetOf(parent) {
+  using Events = Core::EventSet;
+  Relay(&Events::BettingStrategySelected, &StrategyMarquix::BettingStrategySelected);
+  Relay(&Events::PlayingStrategySelected, &StrategyMarquix::PlayingStrategySelected);
+  Relay(&Events::StrategySelectionChanged, &StrategyMarquix::StrategySelectionChanged);
 }
 
 StrategyMarquix::~StrategyMarquix() { EndControl(); }
 
-QString StrategyMarquix::Caption() const { return ToQt(marquee_->Caption()); }
-void StrategyMarquix::Caption(const QString& caption) { marquee_->Caption(FromQt(caption)); }
+QString StrategyMarquix::Caption() const { return Get<QString>(&Core::Caption); }
 StrategyMarquix::TypeOfStrategyMarquixControl StrategyMarquix::ControlType() const {
-  return static_cast<TypeOfStrategyMarquixControl>(marquee_->ControlType().Value());
+  return Get<TypeOfStrategyMarquixControl>(&Core::ControlType);
 }
-void StrategyMarquix::ControlType(TypeOfStrategyMarquixControl type) {
-  marquee_->ControlType(static_cast<std::int32_t>(type));
-}
-bool StrategyMarquix::Enabled() const { return marquee_->Enabled(); }
-void StrategyMarquix::Enabled(bool enabled) { marquee_->Enabled(enabled); }
-int StrategyMarquix::ListIndex() const { return marquee_->ListIndex(); }
-void StrategyMarquix::ListIndex(int strategy) { marquee_->ListIndex(ToInt16(strategy)); }
+bool StrategyMarquix::Enabled() const { return Get<bool>(&Core::Enabled); }
+int StrategyMarquix::ListIndex() const { return GetOr(NoRow, &Core::ListIndex); }
 StrategyMarquix::StrategyListFormats StrategyMarquix::ourStrategyListFormats() const {
-  return static_cast<StrategyListFormats>(marquee_->ourStrategyListFormats.Value());
+  return Read<StrategyListFormats>([](const Core& marquee) { return marquee.ourStrategyListFormats; });
 }
-void StrategyMarquix::ourStrategyListFormats(StrategyListFormats formats) {
-  marquee_->ourStrategyListFormats = static_cast<std::int32_t>(formats);
+bool StrategyMarquix::aStrategyExists() const { return Get<bool>(&Core::aStrategyExists); }
+
+void StrategyMarquix::setCaption(const QString& caption) { Call(&Core::Caption, caption); }
+void StrategyMarquix::setControlType(TypeOfStrategyMarquixControl type) {
+  Run([&](Core& marquee) { marquee.ControlType(std::int32_t{type}); });
 }
-bool StrategyMarquix::aStrategyExists() const { return marquee_->aStrategyExists(); }
-void StrategyMarquix::AddItem(const QString& thisItem) { marquee_->AddItem(FromQt(thisItem)); }
-void StrategyMarquix::InputPlayingStrategyDescriptions() { marquee_->InputPlayingStrategyDescriptions(); }
-void StrategyMarquix::LoadStrategiesFromIniFile() { marquee_->LoadStrategiesFromIniFile(); }
-void StrategyMarquix::SelectThisStrategy(bool selection) { marquee_->SelectThisStrategy(selection); }
-void StrategyMarquix::SetFocus() { marquee_->SetFocus(); }
+void StrategyMarquix::setControlEnabled(bool enabled) { Call(&Core::Enabled, enabled); }
+void StrategyMarquix::setListIndex(int strategy) { Call(&Core::ListIndex, strategy); }
+void StrategyMarquix::setOurStrategyListFormats(StrategyListFormats formats) {
+  Run([&](Core& marquee) { marquee.ourStrategyListFormats = std::int32_t{formats}; });
+}
+
+void StrategyMarquix::AddItem(const QString& thisItem) { Call(&Core::AddItem, thisItem); }
+void StrategyMarquix::InputPlayingStrategyDescriptions() { Call(&Core::InputPlayingStrategyDescriptions); }
+void StrategyMarquix::LoadStrategiesFromIniFile() { Call(&Core::LoadStrategiesFromIniFile); }
+void StrategyMarquix::SelectThisStrategy(bool selection) { Call(&Core::SelectThisStrategy, selection); }
+void StrategyMarquix::SetFocus() { Call(&Core::SetFocus); }
 void StrategyMarquix::UseThisStrategyList(const ObjectRef& thisStrategyList) {
-  marquee_->UseThisStrategyList(thisStrategyList);
+  Call(&Core::UseThisStrategyList, thisStrategyList);
 }
 
 }  // namespace tactix::qt

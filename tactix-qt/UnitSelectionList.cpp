@@ -1,15 +1,11 @@
 #include "tactix-qt/UnitSelectionList.h"
 
-#include <memory>
-#include <utility>
+#include "tactix-qt/Forwarding.h"
 
 namespace tactix::qt {
 
-UnitSelectionList::UnitSelectionList(QWidget* parent) : ControlWidget(parent) {
-  auto control = std::make_unique<tactix::UnitSelectionList>(ItsSite());
-  list_ = control.get();
-  Own(std::move(control));
-  list_->Events.UnitSizeSelected.Connect([this](const std::int16_t& row) { Q_EMIT UnitSizeSelected(row); });
+UnitSelectionList::UnitSelectionList(QWidget* parent) : WidgetOf(parent) {
+  Relay(&Core::EventSet::UnitSizeSelected, &UnitSelectionList::UnitSizeSelected);
 }
 
 UnitSelectionList::~UnitSelectionList() { EndControl(); }

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <type_traits>
+#include <utility>
 
 #include "tactix/platform/Color.h"
 
@@ -16,215 +17,92 @@ constexpr std::int32_t Number(E row) {
   return static_cast<std::int32_t>(row);
 }
 
-TEST(EnumerationsTest, EveryRowHasItsNumber) {
-  struct Row {
-    const char* name;
-    std::int32_t number;
-    std::int32_t expected;
+TEST(EnumerationsTest, VerdictsFollowTheAdviceAndCorrectDoesNot) {
+  const std::pair<AdvicePossibilities, AfterAdvicePossibilities> plays[] = {
+      {AdvicePossibilities::HitAdvised, AfterAdvicePossibilities::afterYouShouldaHit},
+      {AdvicePossibilities::StandAdvised, AfterAdvicePossibilities::afterYouShouldaStood},
+      {AdvicePossibilities::SplitAdvised, AfterAdvicePossibilities::afterYouShouldaSplit},
+      {AdvicePossibilities::DoubleAdvised, AfterAdvicePossibilities::afterYouShouldaDoubled},
+      {AdvicePossibilities::SurrenderAdvised, AfterAdvicePossibilities::afterYouShouldaSurrendered},
   };
-  const Row rows[] = {
-      // AdvicePossibilities
-      {"HitAdvised", Number(AdvicePossibilities::HitAdvised), 1},
-      {"StandAdvised", Number(AdvicePossibilities::StandAdvised), 2},
-      {"SplitAdvised", Number(AdvicePossibilities::SplitAdvised), 3},
-      {"DoubleAdvised", Number(AdvicePossibilities::DoubleAdvised), 4},
-      {"SurrenderAdvised", Number(AdvicePossibilities::SurrenderAdvised), 5},
-      // BlinkPossibilities
-      {"AdviceButtonNeverBlink", Number(BlinkPossibilities::AdviceButtonNeverBlink), 0},
-      {"AdviceButtonBlinkAlways", Number(BlinkPossibilities::AdviceButtonBlinkAlways), 2},
-      {"AdviceButtonBlink1stTime", Number(BlinkPossibilities::AdviceButtonBlink1stTime), 4},
-      // TypeOfDecisionBox
-      {"forUseWithDrills", Number(TypeOfDecisionBox::forUseWithDrills), 0},
-      {"forUseWithBlackjackTable", Number(TypeOfDecisionBox::forUseWithBlackjackTable), 1},
-      // AdviceButtonAppearance
-      {"SmallButton", Number(AdviceButtonAppearance::SmallButton), 1},
-      {"MediumButton", Number(AdviceButtonAppearance::MediumButton), 2},
-      {"LargeButton", Number(AdviceButtonAppearance::LargeButton), 3},
-      // DecisionRegisterType
-      {"StandardDecisionRegister", Number(DecisionRegisterType::StandardDecisionRegister), 1},
-      {"AfterAdviceDecisionRegister", Number(DecisionRegisterType::AfterAdviceDecisionRegister), 2},
-      // AfterAdvicePossibilities
-      {"afterNoAdvice", Number(AfterAdvicePossibilities::afterNoAdvice), 0},
-      {"afterYouShouldaHit", Number(AfterAdvicePossibilities::afterYouShouldaHit), 1},
-      {"afterYouShouldaStood", Number(AfterAdvicePossibilities::afterYouShouldaStood), 2},
-      {"afterYouShouldaSplit", Number(AfterAdvicePossibilities::afterYouShouldaSplit), 3},
-      {"afterYouShouldaDoubled", Number(AfterAdvicePossibilities::afterYouShouldaDoubled), 4},
-      {"afterYouShouldaSurrendered", Number(AfterAdvicePossibilities::afterYouShouldaSurrendered), 5},
-      {"afterYourPlayWasCorrect", Number(AfterAdvicePossibilities::afterYourPlayWasCorrect), 100},
-      // DecisionBARAlignment
-      {"DBAlignNone", Number(DecisionBARAlignment::DBAlignNone), 0},
-      {"DBAlignTop", Number(DecisionBARAlignment::DBAlignTop), 1},
-      {"DBAlignBottom", Number(DecisionBARAlignment::DBAlignBottom), 2},
-      {"DBAlignLeft", Number(DecisionBARAlignment::DBAlignLeft), 3},
-      {"DBAlignRight", Number(DecisionBARAlignment::DBAlignRight), 4},
-      // DecisionBARWidthPossibilities
-      {"stdWidth", Number(DecisionBARWidthPossibilities::stdWidth), 258},
-      {"TierAWidth", Number(DecisionBARWidthPossibilities::TierAWidth), 600},
-      {"TierBWidth", Number(DecisionBARWidthPossibilities::TierBWidth), 700},
-      {"TierCWidth", Number(DecisionBARWidthPossibilities::TierCWidth), 800},
-      // ButtonStatusPossibilities
-      {"ButtonsArevisible", Number(ButtonStatusPossibilities::ButtonsArevisible), -1},
-      {"ButtonsAreInvisible", Number(ButtonStatusPossibilities::ButtonsAreInvisible), 0},
-      {"ButtonIsPressed", Number(ButtonStatusPossibilities::ButtonIsPressed), -1},
-      {"ButtonIsUnPressed", Number(ButtonStatusPossibilities::ButtonIsUnPressed), 0},
-      // DecisionBARHitcardPossibilities
-      {"DBHitcardIsLow", Number(DecisionBARHitcardPossibilities::DBHitcardIsLow), 1},
-      {"DBHitcardIsMid", Number(DecisionBARHitcardPossibilities::DBHitcardIsMid), 2},
-      {"DBHitcardIsHigh", Number(DecisionBARHitcardPossibilities::DBHitcardIsHigh), 3},
-      {"DBHitcardIsUnknown", Number(DecisionBARHitcardPossibilities::DBHitcardIsUnknown), 4},
-      // DecisionBARHolecardPossibilities
-      {"DBHolecardIsLow", Number(DecisionBARHolecardPossibilities::DBHolecardIsLow), 1},
-      {"DBHolecardIsMid", Number(DecisionBARHolecardPossibilities::DBHolecardIsMid), 2},
-      {"DBHolecardIsHigh", Number(DecisionBARHolecardPossibilities::DBHolecardIsHigh), 3},
-      {"DBHolecardIsUnknown", Number(DecisionBARHolecardPossibilities::DBHolecardIsUnknown), 4},
-      // DecisionBARTensRatioPossibilities
-      {"DBTensRatioIsLow", Number(DecisionBARTensRatioPossibilities::DBTensRatioIsLow), 1},
-      {"DBTensRatioIsHigh", Number(DecisionBARTensRatioPossibilities::DBTensRatioIsHigh), 3},
-      // DecisionBARDealerHandPossibilities
-      {"DBDealerHandIsWeak", Number(DecisionBARDealerHandPossibilities::DBDealerHandIsWeak), -1},
-      {"DBDealerHandIsStrong", Number(DecisionBARDealerHandPossibilities::DBDealerHandIsStrong), 1},
-      // TypeOfStrategyControl
-      {"IsNotYetAssigned", Number(TypeOfStrategyControl::IsNotYetAssigned), 0},
-      {"IsABettingControl", Number(TypeOfStrategyControl::IsABettingControl), 1},
-      {"IsAPlayingControl", Number(TypeOfStrategyControl::IsAPlayingControl), 2},
-      {"IsAnEvaluationControl", Number(TypeOfStrategyControl::IsAnEvaluationControl), 3},
-      // TypeOfBettingStrategyControl
-      {"ControlIsNotYetAssigned", Number(TypeOfBettingStrategyControl::ControlIsNotYetAssigned), 0},
-      {"ControlIsABettingControl", Number(TypeOfBettingStrategyControl::ControlIsABettingControl), 1},
-      {"ControlIsAPlayingControl", Number(TypeOfBettingStrategyControl::ControlIsAPlayingControl), 2},
-      {"ControlIsAnEvaluationControl", Number(TypeOfBettingStrategyControl::ControlIsAnEvaluationControl), 3},
-      // TypeOfStrategyMarquixControl
-      {"IsNotYetAssigned", Number(TypeOfStrategyMarquixControl::IsNotYetAssigned), 0},
-      {"IsABettingMarquix", Number(TypeOfStrategyMarquixControl::IsABettingMarquix), 1},
-      {"IsAPlayingMarquix", Number(TypeOfStrategyMarquixControl::IsAPlayingMarquix), 2},
-      {"IsAnEvaluationMarquix", Number(TypeOfStrategyMarquixControl::IsAnEvaluationMarquix), 3},
-      {"IsATableSelectionMarquix", Number(TypeOfStrategyMarquixControl::IsATableSelectionMarquix), 4},
-      {"IsATableDepartureMarquix", Number(TypeOfStrategyMarquixControl::IsATableDepartureMarquix), 5},
-      // StrategyListFormats
-      {"ShowAllStrategies", Number(StrategyListFormats::ShowAllStrategies), 0},
-      {"ShowPresentStrategiesOnly", Number(StrategyListFormats::ShowPresentStrategiesOnly), 1},
-      // BettingStrategyListFormats
-      {"ShowAllBettingStrategies", Number(BettingStrategyListFormats::ShowAllBettingStrategies), 0},
-      {"ShowPresentBettingStrategiesOnly", Number(BettingStrategyListFormats::ShowPresentBettingStrategiesOnly), 1},
-      // CountStrategyPossibilities
-      {"InvalidCountStrategy", Number(CountStrategyPossibilities::InvalidCountStrategy), 0},
-      {"UstonSPM", Number(CountStrategyPossibilities::UstonSPM), 11},
-      {"UstonAPM", Number(CountStrategyPossibilities::UstonAPM), 12},
-      {"UstonAPC", Number(CountStrategyPossibilities::UstonAPC), 13},
-      {"UstonSS", Number(CountStrategyPossibilities::UstonSS), 14},
-      {"KelvoAceFive", Number(CountStrategyPossibilities::KelvoAceFive), 15},
-      {"KelvoAPC", Number(CountStrategyPossibilities::KelvoAPC), 16},
-      {"KelvoAPC2", Number(CountStrategyPossibilities::KelvoAPC2), 17},
-      {"KelvoSS", Number(CountStrategyPossibilities::KelvoSS), 18},
-      {"KelvoClumpCount", Number(CountStrategyPossibilities::KelvoClumpCount), 19},
-      {"KelvoClumpTrack", Number(CountStrategyPossibilities::KelvoClumpTrack), 20},
-      {"HIOpt1", Number(CountStrategyPossibilities::HIOpt1), 21},
-      {"Hiopt2", Number(CountStrategyPossibilities::Hiopt2), 22},
-      {"ReverePlusMinus", Number(CountStrategyPossibilities::ReverePlusMinus), 23},
-      {"ReverePointCount", Number(CountStrategyPossibilities::ReverePointCount), 24},
-      {"RevereAPC", Number(CountStrategyPossibilities::RevereAPC), 25},
-      {"PattersonPLusMinus", Number(CountStrategyPossibilities::PattersonPLusMinus), 26},
-      {"AndersonPointCount", Number(CountStrategyPossibilities::AndersonPointCount), 27},
-      {"ScobletePointCount", Number(CountStrategyPossibilities::ScobletePointCount), 28},
-      {"UltimateCount", Number(CountStrategyPossibilities::UltimateCount), 29},
-      {"CanfieldExpert", Number(CountStrategyPossibilities::CanfieldExpert), 30},
-      {"CanfieldMaster", Number(CountStrategyPossibilities::CanfieldMaster), 31},
-      {"SnyderRedSeven", Number(CountStrategyPossibilities::SnyderRedSeven), 32},
-      {"SnyderZenCount", Number(CountStrategyPossibilities::SnyderZenCount), 33},
-      {"WomansCount", Number(CountStrategyPossibilities::WomansCount), 34},
-      {"OmegaII", Number(CountStrategyPossibilities::OmegaII), 35},
-      {"WilsonPointCount", Number(CountStrategyPossibilities::WilsonPointCount), 36},
-      {"AguilarAceSix", Number(CountStrategyPossibilities::AguilarAceSix), 37},
-      {"CoreRatioCount", Number(CountStrategyPossibilities::CoreRatioCount), 38},
-      {"LowestCardCountIndex", Number(CountStrategyPossibilities::LowestCardCountIndex), 11},
-      {"HighestCardCountIndex", Number(CountStrategyPossibilities::HighestCardCountIndex), 38},
-      // SpinCounterPossibilities
-      {"LeftHandSpinCounter", Number(SpinCounterPossibilities::LeftHandSpinCounter), 1},
-      {"RighHandSpinCounter", Number(SpinCounterPossibilities::RighHandSpinCounter), 2},
-      {"TopMountSpinCounter", Number(SpinCounterPossibilities::TopMountSpinCounter), 3},
-      {"BottomMountSpinCounter", Number(SpinCounterPossibilities::BottomMountSpinCounter), 4},
-      // CardClumpValuePossibilities
-      {"NeutralClumpValue", Number(CardClumpValuePossibilities::NeutralClumpValue), 0},
-      // theClumpCardValuePossibilities
-      {"theClumpCardValueIsAnAce", Number(theClumpCardValuePossibilities::theClumpCardValueIsAnAce), 1},
-      {"theClumpCardValueIsATwo", Number(theClumpCardValuePossibilities::theClumpCardValueIsATwo), 2},
-      {"theClumpCardValueIsAThree", Number(theClumpCardValuePossibilities::theClumpCardValueIsAThree), 3},
-      {"theClumpCardValueIsAFour", Number(theClumpCardValuePossibilities::theClumpCardValueIsAFour), 4},
-      {"theClumpCardValueIsAFive", Number(theClumpCardValuePossibilities::theClumpCardValueIsAFive), 5},
-      {"theClumpCardValueIsASix", Number(theClumpCardValuePossibilities::theClumpCardValueIsASix), 6},
-      {"theClumpCardValueIsASeven", Number(theClumpCardValuePossibilities::theClumpCardValueIsASeven), 7},
-      {"theClumpCardValueIsAnEight", Number(theClumpCardValuePossibilities::theClumpCardValueIsAnEight), 8},
-      {"theClumpCardValueIsANine", Number(theClumpCardValuePossibilities::theClumpCardValueIsANine), 9},
-      {"theClumpCardValueIsATen", Number(theClumpCardValuePossibilities::theClumpCardValueIsATen), 10},
-      // theCardValuePossibilities
-      {"theCardValueIsAnAce", Number(theCardValuePossibilities::theCardValueIsAnAce), 1},
-      {"theCardValueIsATwo", Number(theCardValuePossibilities::theCardValueIsATwo), 2},
-      {"theCardValueIsAThree", Number(theCardValuePossibilities::theCardValueIsAThree), 3},
-      {"theCardValueIsAFour", Number(theCardValuePossibilities::theCardValueIsAFour), 4},
-      {"theCardValueIsAFive", Number(theCardValuePossibilities::theCardValueIsAFive), 5},
-      {"theCardValueIsASix", Number(theCardValuePossibilities::theCardValueIsASix), 6},
-      {"theCardValueIsASeven", Number(theCardValuePossibilities::theCardValueIsASeven), 7},
-      {"theCardValueIsAnEight", Number(theCardValuePossibilities::theCardValueIsAnEight), 8},
-      {"theCardValueIsANine", Number(theCardValuePossibilities::theCardValueIsANine), 9},
-      {"theCardValueIsATen", Number(theCardValuePossibilities::theCardValueIsATen), 10},
-      // CardPointValuePossibilities
-      {"CardIsAMinus10", Number(CardPointValuePossibilities::CardIsAMinus10), -10},
-      {"CardIsAMinus9", Number(CardPointValuePossibilities::CardIsAMinus9), -9},
-      {"CardIsAMinus8", Number(CardPointValuePossibilities::CardIsAMinus8), -8},
-      {"CardIsAMinus7", Number(CardPointValuePossibilities::CardIsAMinus7), -7},
-      {"CardIsAMinus6", Number(CardPointValuePossibilities::CardIsAMinus6), -6},
-      {"CardIsAMinus5", Number(CardPointValuePossibilities::CardIsAMinus5), -5},
-      {"CardIsAMinus4", Number(CardPointValuePossibilities::CardIsAMinus4), -4},
-      {"CardIsAMinus3", Number(CardPointValuePossibilities::CardIsAMinus3), -3},
-      {"CardIsAMinus2", Number(CardPointValuePossibilities::CardIsAMinus2), -2},
-      {"CardIsAMinus1", Number(CardPointValuePossibilities::CardIsAMinus1), -1},
-      {"NeutralPointValue", Number(CardPointValuePossibilities::NeutralPointValue), 0},
-      {"CardIsAPlus1", Number(CardPointValuePossibilities::CardIsAPlus1), 1},
-      {"CardIsAPlus2", Number(CardPointValuePossibilities::CardIsAPlus2), 2},
-      {"CardIsAPlus3", Number(CardPointValuePossibilities::CardIsAPlus3), 3},
-      {"CardIsAPlus4", Number(CardPointValuePossibilities::CardIsAPlus4), 4},
-      {"CardIsAPlus5", Number(CardPointValuePossibilities::CardIsAPlus5), 5},
-      {"CardIsAPlus6", Number(CardPointValuePossibilities::CardIsAPlus6), 6},
-      {"CardIsAPlus7", Number(CardPointValuePossibilities::CardIsAPlus7), 7},
-      {"CardIsAPlus8", Number(CardPointValuePossibilities::CardIsAPlus8), 8},
-      {"CardIsAPlus9", Number(CardPointValuePossibilities::CardIsAPlus9), 9},
-      {"CardIsAPlus10", Number(CardPointValuePossibilities::CardIsAPlus10), 10},
-      {"LowestPointValue", Number(CardPointValuePossibilities::LowestPointValue), -10},
-      {"HighestPointValue", Number(CardPointValuePossibilities::HighestPointValue), 10},
-      {"PointListConversion", Number(CardPointValuePossibilities::PointListConversion), 10},
-      // UnitsSelectedPosibilities
-      {"Selected1Unit", Number(UnitsSelectedPosibilities::Selected1Unit), 1},
-      {"Selected2Unit", Number(UnitsSelectedPosibilities::Selected2Unit), 2},
-      {"Selected3Unit", Number(UnitsSelectedPosibilities::Selected3Unit), 3},
-      {"Selected4Unit", Number(UnitsSelectedPosibilities::Selected4Unit), 4},
-      {"Selected5Unit", Number(UnitsSelectedPosibilities::Selected5Unit), 5},
-      {"Selected10Units", Number(UnitsSelectedPosibilities::Selected10Units), 10},
-      {"Selected15Units", Number(UnitsSelectedPosibilities::Selected15Units), 15},
-      {"Selected20Units", Number(UnitsSelectedPosibilities::Selected20Units), 20},
-      {"Selected25Units", Number(UnitsSelectedPosibilities::Selected25Units), 25},
-      {"Selected30Units", Number(UnitsSelectedPosibilities::Selected30Units), 30},
-      {"Selected35Units", Number(UnitsSelectedPosibilities::Selected35Units), 35},
-      // TypeOfCountBox
-      {"noCountBox", Number(TypeOfCountBox::noCountBox), 0},
-      {"CountBoxIsRunningCount", Number(TypeOfCountBox::CountBoxIsRunningCount), 1},
-      {"CountBoxIsTrueCount", Number(TypeOfCountBox::CountBoxIsTrueCount), 2},
-      // CountBoxLabelColors
-      {"noCountBoxLabel", Number(CountBoxLabelColors::noCountBoxLabel), 0},
-      {"CountBoxRunningCountColor", Number(CountBoxLabelColors::CountBoxRunningCountColor), 12640511},
-      {"CountBoxTrueCountColor", Number(CountBoxLabelColors::CountBoxTrueCountColor), 8438015},
-      // CardCountDisplayValueRanges
-      {"CardCountDisplayIsZero", Number(CardCountDisplayValueRanges::CardCountDisplayIsZero), 0},
-      {"CardCountDisplayPlus", Number(CardCountDisplayValueRanges::CardCountDisplayPlus), 100},
-      {"CardCountDisplayMinus", Number(CardCountDisplayValueRanges::CardCountDisplayMinus), -100},
-      // ShadowBoxingConstants
-      {"ShadowBoxingDisabled", Number(ShadowBoxingConstants::ShadowBoxingDisabled), 0},
-      {"ShadowBoxYellowColor", Number(ShadowBoxingConstants::ShadowBoxYellowColor), 65535},
-      {"ShadowBoxBlackColor", Number(ShadowBoxingConstants::ShadowBoxBlackColor), 4210752},
-      {"ShadowBoxWhiteColor", Number(ShadowBoxingConstants::ShadowBoxWhiteColor), 16777215},
-      {"ShadowBoxingEnabled", Number(ShadowBoxingConstants::ShadowBoxingEnabled), 65535},
-      {"ShadowBoxingDisEnabled", Number(ShadowBoxingConstants::ShadowBoxingDisEnabled), 16777215},
+  std::int32_t play = Number(AfterAdvicePossibilities::afterNoAdvice);
+  for (const auto& [advice, verdict] : plays) {
+    EXPECT_EQ(Number(advice), ++play);
+    EXPECT_EQ(Number(verdict), Number(advice));
+  }
+  EXPECT_GT(Number(AfterAdvicePossibilities::afterYourPlayWasCorrect), play + 1);
+}
+
+TEST(EnumerationsTest, PredictionsOfAllKindsShareTheirNumbers) {
+  using Hit = DecisionBARHitcardPossibilities;
+  using Hole = DecisionBARHolecardPossibilities;
+  using Tens = DecisionBARTensRatioPossibilities;
+  EXPECT_EQ(Number(Hit::DBHitcardIsLow), Number(Hole::DBHolecardIsLow));
+  EXPECT_EQ(Number(Hit::DBHitcardIsMid), Number(Hole::DBHolecardIsMid));
+  EXPECT_EQ(Number(Hit::DBHitcardIsHigh), Number(Hole::DBHolecardIsHigh));
+  EXPECT_EQ(Number(Hit::DBHitcardIsUnknown), Number(Hole::DBHolecardIsUnknown));
+  EXPECT_EQ(Number(Hit::DBHitcardIsLow), Number(Tens::DBTensRatioIsLow));
+  EXPECT_EQ(Number(Hit::DBHitcardIsHigh), Number(Tens::DBTensRatioIsHigh)) << "there is no middle";
+  EXPECT_EQ(Number(DecisionBARDealerHandPossibilities::DBDealerHandIsWeak),
+            -Number(DecisionBARDealerHandPossibilities::DBDealerHandIsStrong));
+}
+
+TEST(EnumerationsTest, CardsAreTheirPointsInBothLists) {
+  EXPECT_EQ(Number(theCardValuePossibilities::theCardValueIsAnAce), 1);
+  EXPECT_EQ(Number(theCardValuePossibilities::theCardValueIsATen), 10);
+  EXPECT_EQ(Number(theCardValuePossibilities::theCardValueIsAnEight),
+            Number(theClumpCardValuePossibilities::theClumpCardValueIsAnEight));
+  EXPECT_EQ(Number(theCardValuePossibilities::theCardValueIsATen),
+            Number(theClumpCardValuePossibilities::theClumpCardValueIsATen));
+  EXPECT_EQ(Number(CardPointValuePossibilities::NeutralPointValue),
+            Number(CardClumpValuePossibilities::NeutralClumpValue));
+}
+
+TEST(EnumerationsTest, PointValuesLieRoundTheNeutralOne) {
+  using Points = CardPointValuePossibilities;
+  const std::pair<Points, Points> pairs[] = {
+      {Points::CardIsAPlus1, Points::CardIsAMinus1}, {Points::CardIsAPlus2, Points::CardIsAMinus2},
+      {Points::CardIsAPlus3, Points::CardIsAMinus3}, {Points::CardIsAPlus4, Points::CardIsAMinus4},
+      {Points::CardIsAPlus5, Points::CardIsAMinus5}, {Points::CardIsAPlus6, Points::CardIsAMinus6},
+      {Points::CardIsAPlus7, Points::CardIsAMinus7}, {Points::CardIsAPlus8, Points::CardIsAMinus8},
+      {Points::CardIsAPlus9, Points::CardIsAMinus9}, {Points::CardIsAPlus10, Points::CardIsAMinus10},
   };
-  for (const Row& row : rows) EXPECT_EQ(row.number, row.expected) << row.name;
+  std::int32_t distance = Number(Points::NeutralPointValue);
+  for (const auto& [plus, minus] : pairs) {
+    EXPECT_EQ(Number(plus), ++distance);
+    EXPECT_EQ(Number(minus), -distance);
+  }
+  EXPECT_EQ(Number(Points::LowestPointValue) + Number(Points::PointListConversion), 0) << "the list's first row";
+}
+
+TEST(EnumerationsTest, ThereAre28CountSystemsWithoutAGap) {
+  using Systems = CountStrategyPossibilities;
+  EXPECT_EQ(Number(Systems::HighestCardCountIndex) - Number(Systems::LowestCardCountIndex) + 1, 28);
+  EXPECT_LT(Number(Systems::InvalidCountStrategy), Number(Systems::LowestCardCountIndex));
+  EXPECT_EQ(Number(Systems::HIOpt1), Number(Systems::LowestCardCountIndex) + 10) << "Hi-Opt I is the eleventh";
+}
+
+TEST(EnumerationsTest, TheBettingListsNamesStandForTheSameNumbers) {
+  using Strategy = TypeOfStrategyControl;
+  using Betting = TypeOfBettingStrategyControl;
+  using Marquix = TypeOfStrategyMarquixControl;
+  EXPECT_EQ(Number(Strategy::IsNotYetAssigned), Number(Betting::ControlIsNotYetAssigned));
+  EXPECT_EQ(Number(Strategy::IsABettingControl), Number(Betting::ControlIsABettingControl));
+  EXPECT_EQ(Number(Strategy::IsAPlayingControl), Number(Betting::ControlIsAPlayingControl));
+  EXPECT_EQ(Number(Strategy::IsAnEvaluationControl), Number(Betting::ControlIsAnEvaluationControl));
+  EXPECT_EQ(Number(Strategy::IsNotYetAssigned), Number(Marquix::IsNotYetAssigned));
+  EXPECT_EQ(Number(Strategy::IsABettingControl), Number(Marquix::IsABettingMarquix));
+  EXPECT_EQ(Number(Strategy::IsAPlayingControl), Number(Marquix::IsAPlayingMarquix));
+  EXPECT_EQ(Number(Strategy::IsAnEvaluationControl), Number(Marquix::IsAnEvaluationMarquix));
+  EXPECT_EQ(Number(StrategyListFormats::ShowAllStrategies),
+            Number(BettingStrategyListFormats::ShowAllBettingStrategies));
+  EXPECT_EQ(Number(StrategyListFormats::ShowPresentStrategiesOnly),
+            Number(BettingStrategyListFormats::ShowPresentBettingStrategiesOnly));
+}
+
+TEST(EnumerationsTest, BoundsOfACountDisplayAreSymmetric) {
+  EXPECT_EQ(Number(CardCountDisplayValueRanges::CardCountDisplayPlus),
+            -Number(CardCountDisplayValueRanges::CardCountDisplayMinus));
 }
 
 TEST(EnumerationsTest, RowsOfTwoNamesAreOneNumber) {

@@ -1,118 +1,244 @@
+// The widget classes of the controls against the controls' own tables: properties, signals, forms.
+
 #include <gtest/gtest.h>
 
 #include <QBuffer>
-#include <QMetaEnum>
-#include <QMetaProperty>
-#include <QSignalSpy>
 #include <QUiLoader>
+#include <cctype>
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "tactix-qt/AdviceButton.h"
-#include "tactix-qt/BetStrategyList.h"
-#include "tactix-qt/CardCountDisplayBox.h"
-#include "tactix-qt/ClumpCardList.h"
-#include "tactix-qt/CountStrategyList.h"
-#include "tactix-qt/CountValueSelector.h"
-#include "tactix-qt/Decision.h"
-#include "tactix-qt/DecisionRegiLOG.h"
-#include "tactix-qt/DecisionRegister.h"
-#include "tactix-qt/DualCardCountDisplay.h"
-#include "tactix-qt/SpinCounter.h"
-#include "tactix-qt/StrategyDataPanel.h"
-#include "tactix-qt/StrategyList.h"
-#include "tactix-qt/StrategyListLITE.h"
+#include "tactix-qt/StrategyListControl.h"
 #include "tactix-qt/StrategyMarquix.h"
-#include "tactix-qt/UnitSelectionList.h"
 #include "tactix/platform/PropertyTable.h"
-#include "tests/platform/ErrorCode.h"
+#include "tests/support-qt/ControlClasses.h"
+#include "tests/support-qt/ControlSketch.h"
 #include "tests/support-qt/Gestures.h"
-#include "tests/support/InstalledCounterValues.h"
+#include "tests/support-qt/Hooks.h"
+#include "tests/support-qt/SignalLog.h"
 #include "tests/support/RowName.h"
 
 namespace tactix::tests {
 namespace {
 
-template <class W>
-qt::ControlWidget* Make(QWidget* parent) {
-  return new W(parent);
+using Names = std::set<std::string>;
+using Texts = std::vector<std::string>;
+
+/// Whether QWidget has a setter of the usual name.
+bool Collides(const std::string& property) { return Names{"Enabled", "Font", "ToolTip", "Visible"}.contains(property); }
+
+/// The property's slot `setX`.
+std::string SetterOf(const std::string& property) {
+  if (Collides(property)) return "setControl" + property;
+  return "set" + std::string(1, static_cast<char>(std::toupper(property[0]))) + property.substr(1);
 }
 
-template <class C>
-std::set<std::string> EventNames(qt::ControlWidget& widget) {
-  std::set<std::string> names;
-  std::apply([&names](auto&... events) { (names.emplace(events.Name()), ...); },
-             static_cast<C&>(*widget.Hosted()).Events.All());
-  return names;
-}
-
-struct ClassRow {
-  const char* name;
-  qt::ControlWidget* (*make)(QWidget*);
-  std::set<std::string> (*events)(qt::ControlWidget&);
-  /// In a form that gives it 200 by 100 pixels.
-  int width = 200;
-  int height = 100;
-};
-
-/// Properties that read something else than was written.
-bool ReadsOtherwise(const std::string& property) {
-  for (const char* name : {"PromptThePlayButtons", "Qualifier", "UseDefaultSize", "PointValue", "ClumpValue"}) {
-    if (property == name) return true;
+std::vector<QMetaMethod> MethodsNamed(const QMetaObject& meta, QMetaMethod::MethodType type, const std::string& name) {
+  std::vector<QMetaMethod> found;
+  for (const QMetaMethod& method : MethodsOf(meta, type)) {
+    if (method.name().toStdString() == name) found.push_back(method);
   }
-  return false;
+  return found;
 }
 
-class QtControlClassTest : public testing::TestWithParam<ClassRow> {
+/// Calls the one slot of a name.
+void Send(QObject& object, const std::string& slot, QVariant value) {
+  const std::vector<QMetaMethod> slots = MethodsNamed(*object.metaObject(), QMetaMethod::Slot, slot);
+  ASSERT_EQ(slots.size(), 1U) << slot;
+  QVariantList arguments = {std::move(value)};
+  Invoke(object, slots[0].methodSignature().toStdString(), arguments);
+}
+
+/// The type in which Qt has a control's value.
+bool IsTypeOf(const Variant& value, const QMetaProperty& property) {
+  switch (value.Type()) {
+    case VariantType::Boolean:
+      return property.typeId() == QMetaType::Bool;
+    case VariantType::Integer:
+      return property.typeId() == QMetaType::Int;
+    case VariantType::Long:
+      return property.isEnumType() || property.typeId() == QMetaType::QColor;
+    case VariantType::Text:
+      return property.typeId() == QMetaType::QString;
+    case VariantType::Font:
+      return property.typeId() == QMetaType::QFont;
+    case VariantType::Object:
+      return property.metaType() == QMetaType::fromType<ObjectRef>();
+    default:
+      return false;
+  }
+}
+
+/// A value to write where the catalogue's needs a list with rows.
+Variant OtherValueOf(const CataloguedProperty& property) {
+  if (property.name == "ListIndex") return std::int16_t{1};
+  if (property.name == "SelectThisStrategy") return std::int16_t{0};
+  return property.other;
+}
+Variant ReadsAfterWriting(const CataloguedProperty& property) {
+  const bool isRow = property.name == "ListIndex" || property.name == "SelectThisStrategy";
+  return isRow ? OtherValueOf(property) : property.ReadsAfterWriting();
+}
+
+/// Brings a widget into a state in which every property has something to do.
+void Prepare(qt::ControlWidget& widget) {
+  const auto addRows = [](auto* list) {
+    for (const char* row : {"seat", "none", "first"}) {
+      if (list) list->AddItem(QLatin1String(row));
+    }
+  };
+  addRows(qobject_cast<qt::StrategyListControl*>(&widget));
+  addRows(qobject_cast<qt::StrategyMarquix*>(&widget));
+  // Another height than the one that a default size has.
+  widget.Hosted()->Extender().Height(900);
+}
+
+class QtControlClassTest : public testing::TestWithParam<ControlClass> {
  protected:
-  const InstalledCounterValues counterValues_;
-  std::unique_ptr<qt::ControlWidget> widget_{GetParam().make(nullptr)};
+  QtControlClassTest() { hooks_.Install(); }
+
+  const CataloguedProperty& Catalogued(const std::string& name) const {
+    for (const CataloguedProperty& property : GetParam().InTheCatalogue().properties) {
+      if (property.name == name) return property;
+    }
+    throw std::out_of_range(name);
+  }
+
+  void ExpectToReadAsTheControl(const std::string& after) {
+    for (const QMetaProperty& property : PropertiesOf(*widget_->metaObject())) {
+      const PropertyTable::Row* const row = widget_->Hosted()->Properties().Find(property.name());
+      ASSERT_TRUE(row);
+      EXPECT_EQ(TextOf(property.read(widget_.get())), TextOf(AsQt(row->get(*widget_->Hosted()), property.metaType())))
+          << property.name() << " after " << after;
+    }
+  }
+
+  EmptyHooks hooks_;
+  std::unique_ptr<qt::ControlWidget> widget_ = GetParam().Make();
+  const QMetaObject& meta_ = *widget_->metaObject();
 };
 
-TEST_P(QtControlClassTest, HasTheControlsReadableProperties) {
+TEST(QtControlClassesTest, AreThoseOfAllControls) {
+  Names classes;
+  for (const ControlClass& each : ControlClasses()) {
+    classes.insert(each.name);
+    EXPECT_EQ(each.Make()->metaObject()->className(), "tactix::qt::" + each.name);
+  }
+  Names controls;
+  for (const CatalogueEntry& entry : Catalogue()) controls.insert(entry.name);
+  EXPECT_EQ(classes, controls);
+  EXPECT_EQ(classes.size(), 19U);
+}
+
+TEST_P(QtControlClassTest, HasTheControlsPropertiesAndNoOthers) {
+  Names readable;
   for (const PropertyTable::Row& row : widget_->Hosted()->Properties().Rows()) {
-    if (!row.get) continue;
-    const int index = widget_->metaObject()->indexOfProperty(row.name.c_str());
-    ASSERT_GE(index, 0) << row.name;
-    const QMetaProperty property = widget_->metaObject()->property(index);
-    EXPECT_TRUE(property.read(widget_.get()).isValid()) << row.name;
-    EXPECT_EQ(property.isWritable(), static_cast<bool>(row.set)) << row.name;
+    SCOPED_TRACE(row.name);
+    if (!row.get) {
+      EXPECT_LT(meta_.indexOfProperty(row.name.c_str()), 0);
+      const std::vector<QMetaMethod> slots = MethodsNamed(meta_, QMetaMethod::Slot, row.name);
+      ASSERT_EQ(slots.size(), 1U) << "a set-only property is a slot";
+      EXPECT_EQ(slots[0].parameterCount(), 1);
+      continue;
+    }
+    readable.insert(row.name);
+    const QMetaProperty property = meta_.property(meta_.indexOfProperty(row.name.c_str()));
+    ASSERT_TRUE(property.isValid());
+    EXPECT_EQ(property.isWritable(), static_cast<bool>(row.set));
+    EXPECT_TRUE(IsTypeOf(row.get(*widget_->Hosted()), property)) << property.typeName();
+  }
+  Names properties;
+  for (const QMetaProperty& property : PropertiesOf(meta_)) properties.insert(property.name());
+  EXPECT_EQ(properties, readable);
+}
+
+TEST_P(QtControlClassTest, EveryPropertyHasASetterThatIsNotOverloaded) {
+  for (const QMetaProperty& property : PropertiesOf(meta_)) {
+    if (!property.isWritable()) continue;
+    const std::string setter = SetterOf(property.name());
+    SCOPED_TRACE(setter);
+    // What uic calls for a property of a form: by this name where it is the usual one, else setProperty().
+    EXPECT_EQ(property.hasStdCppSet(), !Collides(property.name()));
+    const std::vector<QMetaMethod> found = MethodsNamed(meta_, QMetaMethod::Slot, setter);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].parameterMetaType(0), property.metaType());
+    EXPECT_LT(QWidget::staticMetaObject.indexOfMethod(found[0].methodSignature()), 0) << "QWidget's own";
   }
 }
 
-TEST_P(QtControlClassTest, PropertiesReadAndWriteTheControls) {
+TEST_P(QtControlClassTest, ANewOneReadsAsTheControlAndAsDocumented) {
+  ExpectToReadAsTheControl("construction");
+  for (const QMetaProperty& property : PropertiesOf(meta_)) {
+    if (std::string(property.name()) == "KelvoEdition") continue;  // the catalogue's bars have one from the start
+    EXPECT_EQ(TextOf(property.read(widget_.get())),
+              TextOf(AsQt(Catalogued(property.name()).initial, property.metaType())))
+        << property.name();
+  }
+}
+
+/// The three ways to write a property, compared with the control's own on a twin.
+TEST_P(QtControlClassTest, WritingAPropertyWritesTheControls) {
+  using Way = void (*)(QObject&, const QMetaProperty&, QVariant);
+  const std::pair<const char*, Way> ways[] = {
+      {"as a property", [](QObject& object, const QMetaProperty& property,
+                           QVariant value) { EXPECT_TRUE(property.write(&object, std::move(value))); }},
+      {"by its setter", [](QObject& object, const QMetaProperty& property,
+                           QVariant value) { Send(object, SetterOf(property.name()), std::move(value)); }},
+      {"by the slot of its own name", [](QObject& object, const QMetaProperty& property,
+                                         QVariant value) { Send(object, property.name(), std::move(value)); }},
+  };
   for (const PropertyTable::Row& row : widget_->Hosted()->Properties().Rows()) {
     if (!row.get || !row.set) continue;
-    const char* const name = row.name.c_str();
-    const QVariant before = widget_->property(name);
-    if (before.typeId() == QMetaType::Bool) {
-      EXPECT_EQ(before.toBool(), row.get(*widget_->Hosted()).ToBoolean()) << row.name;
-      if (ReadsOtherwise(row.name)) continue;
-      widget_->setProperty(name, !before.toBool());
-      EXPECT_EQ(row.get(*widget_->Hosted()).ToBoolean(), !before.toBool()) << row.name;
-    } else if (before.typeId() == QMetaType::QString) {
-      EXPECT_EQ(before.toString().toStdString(), row.get(*widget_->Hosted()).ToText()) << row.name;
-      if (ReadsOtherwise(row.name)) continue;
-      widget_->setProperty(name, QStringLiteral("\u00C4 text"));
-      EXPECT_EQ(row.get(*widget_->Hosted()).ToText(), "\xC3\x84 text") << row.name;
-    } else if ((before.metaType().flags() & QMetaType::IsEnumeration) && !ReadsOtherwise(row.name)) {
-      if (row.name == "CountStrategy") continue;  // has no system of that number
-      widget_->setProperty(name, 1);
-      EXPECT_EQ(row.get(*widget_->Hosted()).ToLong(), 1) << row.name;
+    const CataloguedProperty& catalogued = Catalogued(row.name);
+    const QMetaProperty property = meta_.property(meta_.indexOfProperty(row.name.c_str()));
+    const Variant other = OtherValueOf(catalogued);
+    EXPECT_NE(other, catalogued.initial) << row.name << ": a default tells nothing";
+    for (const auto& [how, write] : ways) {
+      SCOPED_TRACE(row.name + " " + how);
+      widget_ = GetParam().Make();
+      const auto twin = GetParam().Make();
+      const auto untouched = GetParam().Make();
+      for (qt::ControlWidget* each : {widget_.get(), twin.get(), untouched.get()}) Prepare(*each);
+      SignalLog heard(*widget_);
+      SignalLog expected(*twin);
+      write(*widget_, property, AsQt(other, property.metaType()));
+      row.set(*twin->Hosted(), other);
+
+      const Sketch sketch = SketchOf(*widget_->Hosted());
+      EXPECT_EQ(Differences(SketchOf(*twin->Hosted()), sketch), Texts());
+      const Texts signals = heard.Take();
+      EXPECT_EQ(signals, expected.Take());
+      // One is ignored on purpose, and an edition cannot be seen.
+      const bool tells = row.name != "Qualifier" && row.name != "KelvoEdition";
+      EXPECT_EQ(sketch != SketchOf(*untouched->Hosted()) || !signals.empty(), tells);
+      // Last: reading one of them acts.
+      EXPECT_EQ(row.get(*widget_->Hosted()), ReadsAfterWriting(catalogued));
+      ExpectToReadAsTheControl("a write of " + row.name);
     }
   }
 }
 
-TEST_P(QtControlClassTest, HasASignalForEveryEvent) {
-  for (const std::string& event : GetParam().events(*widget_)) {
-    bool found = false;
-    for (int i = 0; i < widget_->metaObject()->methodCount(); ++i) {
-      const QMetaMethod method = widget_->metaObject()->method(i);
-      const std::string name = method.name().toStdString();
-      if (method.methodType() == QMetaMethod::Signal && (name == event || name == event + "Raised")) found = true;
-    }
-    EXPECT_TRUE(found) << event;
+TEST_P(QtControlClassTest, HasASignalForEveryEventAndNoOthers) {
+  Names expected;
+  for (const RelayedEvent& event : GetParam().events(*widget_)) {
+    const bool isMethodsName = !MethodsNamed(meta_, QMetaMethod::Slot, event.name).empty();
+    expected.insert(isMethodsName ? event.name + "Raised" : event.name);
+  }
+  Names signals;
+  for (const QMetaMethod& signal : MethodsOf(meta_, QMetaMethod::Signal)) signals.insert(signal.name().toStdString());
+  EXPECT_EQ(signals, expected);
+}
+
+TEST_P(QtControlClassTest, AnEventIsItsSignalWithItsArgumentsAndNothingElse) {
+  SignalLog heard(*widget_);
+  for (const RelayedEvent& event : GetParam().events(*widget_)) {
+    const bool isMethodsName = !MethodsNamed(meta_, QMetaMethod::Slot, event.name).empty();
+    event.raise();
+    EXPECT_EQ(heard.Take(),
+              Texts{event.name + (isMethodsName ? "Raised" : "") + SignalLog::TextOfAll(event.arguments)});
   }
 }
 
@@ -138,107 +264,11 @@ TEST_P(QtControlClassTest, ComesOutOfAForm) {
   ASSERT_TRUE(widget);
   window->show();
   Settle();
-  EXPECT_EQ(widget->geometry(), QRect(10, 20, GetParam().width, GetParam().height));
-  EXPECT_EQ(widget->Hosted()->Extender().Width(), GetParam().width * 15);
+  EXPECT_EQ(widget->geometry(), QRect(QPoint(10, 20), GetParam().sizeInAForm));
+  EXPECT_EQ(widget->Hosted()->Extender().Width(), GetParam().sizeInAForm.width() * 15);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Classes, QtControlClassTest,
-    testing::Values(ClassRow{"StrategyList", Make<qt::StrategyList>, EventNames<StrategyList>},
-                    ClassRow{"AdviceButton", Make<qt::AdviceButton>, EventNames<AdviceButton>},
-                    ClassRow{"Decision", Make<qt::Decision>, EventNames<Decision>},
-                    ClassRow{"DecisionRegister", Make<qt::DecisionRegister>, EventNames<DecisionRegister>, 200, 95},
-                    ClassRow{"DecisionRegiLOG", Make<qt::DecisionRegiLOG>, EventNames<DecisionRegiLOG>},
-                    ClassRow{"CardCountDisplayBox", Make<qt::CardCountDisplayBox>, EventNames<CardCountDisplayBox>},
-                    ClassRow{"DualCardCountDisplay", Make<qt::DualCardCountDisplay>, EventNames<DualCardCountDisplay>},
-                    ClassRow{"StrategyDataPanel", Make<qt::StrategyDataPanel>, EventNames<StrategyDataPanel>},
-                    ClassRow{"SpinCounter", Make<qt::SpinCounter>, EventNames<SpinCounter>, 100},
-                    ClassRow{"CountValueSelector", Make<qt::CountValueSelector>, EventNames<CountValueSelector>},
-                    ClassRow{"ClumpCardList", Make<qt::ClumpCardList>, EventNames<ClumpCardList>},
-                    ClassRow{"UnitSelectionList", Make<qt::UnitSelectionList>, EventNames<UnitSelectionList>},
-                    ClassRow{"StrategyListLITE", Make<qt::StrategyListLITE>, EventNames<StrategyListLITE>},
-                    ClassRow{"BetStrategyList", Make<qt::BetStrategyList>, EventNames<BetStrategyList>},
-                    ClassRow{"CountStrategyList", Make<qt::CountStrategyList>, EventNames<CountStrategyList>},
-                    ClassRow{"StrategyMarquix", Make<qt::StrategyMarquix>, EventNames<StrategyMarquix>}),
-    RowName());
-
-TEST(QtDecisionClassTest, EnumerationsShowTheirRowsByName) {
-  const qt::Decision widget;
-  const QMetaObject& meta = *widget.metaObject();
-  const QMetaProperty property = meta.property(meta.indexOfProperty("DecisionBoxType"));
-  ASSERT_TRUE(property.isEnumType());
-  EXPECT_STREQ(property.enumerator().valueToKey(1), "forUseWithBlackjackTable");
-}
-
-TEST(QtDecisionClassTest, SignalsWhatTheControlRaises) {
-  qt::Decision widget;
-  int row = 0;
-  const auto raise = [&](auto& event, auto signal) {
-    QSignalSpy spy(&widget, signal);
-    event.Raise();
-    EXPECT_EQ(spy.count(), 1) << event.Name();
-    ++row;
-  };
-  auto& events = widget.control().Events;
-  raise(events.PlayerHits, &qt::Decision::PlayerHits);
-  raise(events.PlayerStands, &qt::Decision::PlayerStands);
-  raise(events.BurnACardRequested, &qt::Decision::BurnACardRequested);
-  raise(events.Show, &qt::Decision::ShowRaised);
-  EXPECT_EQ(row, 4);
-}
-
-TEST(QtStrategyListClassTest, SignalsTheNumberByValueAndFailsAsTheControlDoes) {
-  qt::StrategyList widget;
-  QSignalSpy spy(&widget, &qt::StrategyList::StrategySelectionChanged);
-  widget.AddItem(QStringLiteral("seat"));
-  widget.AddItem(QStringLiteral("first"));
-  widget.ListIndex(0);
-  ASSERT_EQ(spy.count(), 1);
-  EXPECT_EQ(spy[0][0].toInt(), 0);
-  EXPECT_EQ(ErrorCodeOf([&] { return widget.ListIndex(7), 0; }), Error::InvalidPropertyValue);
-  EXPECT_EQ(ErrorCodeOf([&] { return widget.ListIndex(70000), 0; }), Error::Overflow);
-}
-
-TEST(QtBetStrategyListClassTest, SelectsQuietly) {
-  qt::BetStrategyList widget;
-  QSignalSpy spy(&widget, &qt::BetStrategyList::StrategySelectionChanged);
-  widget.AddItem(QStringLiteral("seat"));
-  widget.AddItem(QStringLiteral("first"));
-  widget.SelectThisStrategy(0);
-  EXPECT_EQ(spy.count(), 0);
-  EXPECT_EQ(widget.ListIndex(), 0);
-  widget.ListIndex(-1);
-  EXPECT_EQ(spy.count(), 1);
-}
-
-TEST(QtCountStrategyListClassTest, SignalsTheNumberAndTheText) {
-  qt::CountStrategyList widget;
-  QSignalSpy spy(&widget, &qt::CountStrategyList::StrategySelectionChanged);
-  widget.ListIndex(4);
-  ASSERT_EQ(spy.count(), 1);
-  EXPECT_EQ(spy[0][0].toInt(), 15);
-  EXPECT_EQ(spy[0][1].toString(), QStringLiteral("Kelvo' APC"));
-  EXPECT_EQ(widget.CountStrategy(), 4);
-  EXPECT_EQ(widget.CountValue(qt::CountStrategyList::KelvoAPC, 4), 0);
-  EXPECT_EQ(ErrorCodeOf([&] { return widget.CountValue(qt::CountStrategyList::KelvoAPC, 5); }),
-            Error::SubscriptOutOfRange);
-  const QMetaObject& meta = *widget.metaObject();
-  EXPECT_STREQ(meta.property(meta.indexOfProperty("CountStrategy")).enumerator().valueToKey(20), "KelvoClumpTrack");
-}
-
-TEST(QtStrategyMarquixClassTest, ForwardsAndSignals) {
-  qt::StrategyMarquix widget;
-  QSignalSpy spy(&widget, &qt::StrategyMarquix::StrategySelectionChanged);
-  for (const char* item : {"seat", "none", "first"}) widget.AddItem(QLatin1String(item));
-  widget.ListIndex(1);
-  ASSERT_EQ(spy.count(), 1);
-  EXPECT_EQ(spy[0][0].toInt(), 1);
-  EXPECT_TRUE(widget.aStrategyExists());
-  widget.SelectThisStrategy(true);
-  EXPECT_TRUE(widget.control().Children.optStrategySelected.Value());
-  widget.ControlType(qt::StrategyMarquix::IsAPlayingMarquix);
-  EXPECT_TRUE(widget.control().Children.optStrategySelected.Visible());
-}
+INSTANTIATE_TEST_SUITE_P(Classes, QtControlClassTest, testing::ValuesIn(ControlClasses()), RowName());
 
 }  // namespace
 }  // namespace tactix::tests

@@ -13,14 +13,15 @@
 
 #include "tactix-qt/CardCountDisplayBox.h"
 #include "tactix-qt/DecisionRegiLOG.h"
+#include "tactix-qt/DecisionRegister.h"
 #include "tactix-qt/DualCardCountDisplay.h"
 #include "tactix-qt/FittedText.h"
 #include "tactix-qt/QSettingsBag.h"
 #include "tactix-qt/StrategyDataPanel.h"
 #include "tactix-qt/peers/LabelPeer.h"
 #include "tactix-qt/peers/LinePeer.h"
-#include "tests/platform/ErrorCode.h"
 #include "tests/support-qt/Gestures.h"
+#include "tests/support-qt/UnhandledErrors.h"
 #include "tests/support/FullDataBlock.h"
 
 namespace tactix::tests {
@@ -251,7 +252,10 @@ TEST(QtScoresAndCountsTest, SlotsReachTheControls) {
   EXPECT_EQ(log.NumberOfBreakDecisions(), 6);
   log.AfterAdvice(qt::DecisionRegister::afterYourPlayWasCorrect);
   EXPECT_EQ(log.control().Children.labelTheShouldRecommendation.Caption(), "--- Correct! ---");
-  EXPECT_EQ(ErrorCodeOf([&] { return log.DisplayTheDrillResults(40000, 1), 0; }), Error::Overflow);
+  UnhandledErrors errors(log);
+  log.DisplayTheDrillResults(40000, 1);
+  EXPECT_EQ(errors.Take(), std::vector<int>{Error::Overflow});
+  EXPECT_EQ(log.NumberOfDecisions(), 0);
 
   qt::StrategyDataPanel panel;
   EXPECT_EQ(panel.GetClumpStuff(7), "Neutral ");

@@ -16,7 +16,7 @@
 #include "tactix-qt/QSettingsBag.h"
 #include "tactix-qt/SpinCounter.h"
 #include "tactix-qt/UnitSelectionList.h"
-#include "tests/platform/ErrorCode.h"
+#include "tests/support-qt/UnhandledErrors.h"
 #include "tests/support/InstalledCounterValues.h"
 
 namespace tactix::tests {
@@ -56,8 +56,12 @@ TEST(QtValueEntryTest, ASpinCounterSignalsByValue) {
 TEST(QtValueEntryTest, NumbersBeyond16BitsFail) {
   const InstalledCounterValues installed;
   qt::SpinCounter counter;
-  EXPECT_EQ(ErrorCodeOf([&] { return counter.CounterValue(70000), 0; }), 6);
-  EXPECT_EQ(ErrorCodeOf([&] { return counter.MaximumLimit(-70000), 0; }), 6);
+  UnhandledErrors errors(counter);
+  counter.CounterValue(70000);
+  EXPECT_EQ(errors.Take(), std::vector{6});
+  counter.MaximumLimit(-70000);
+  EXPECT_EQ(errors.Take(), std::vector{6});
+  EXPECT_EQ(counter.MaximumLimit(), 999);
   counter.MaximumLimit(52);
   counter.CounterValue(53);
   EXPECT_EQ(counter.CounterValue(), 0);
@@ -66,6 +70,7 @@ TEST(QtValueEntryTest, NumbersBeyond16BitsFail) {
   EXPECT_EQ(counter.property("CounterValue").toInt(), -3);
   counter.NumberWrap(true);
   EXPECT_TRUE(counter.control().NumberWrap());
+  EXPECT_TRUE(errors.Take().empty());
 }
 
 TEST(QtValueEntryTest, TheSizesSlotsActAtOnce) {

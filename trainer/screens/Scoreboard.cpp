@@ -33,7 +33,7 @@ Scoreboard::Scoreboard(QWidget* parent)
     widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     row->addWidget(widget, 1, Qt::AlignCenter);
   }
-  register_->TypeOfDecisionRegister(tactix::qt::DecisionRegister::AfterAdviceDecisionRegister);
+  register_->TypeOfDecisionRegister(tactix::qt::DecisionRegiLOG::AfterAdviceDecisionRegister);
   register_->DisplayTheDrillResults(0, 0);
 }
 
@@ -52,7 +52,7 @@ void Scoreboard::ShowShoe(const engine::Session& session, const engine::CountSys
 void Scoreboard::ShowJudgement(const engine::Judgement& judgement, const engine::Tally& tally) {
   constexpr int most = std::numeric_limits<std::int16_t>::max();
   register_->DisplayTheDrillResults(std::min(tally.decisions, most), std::min(tally.correct, most));
-  register_->AfterAdvice(static_cast<tactix::qt::DecisionRegister::AfterAdvicePossibilities>(VerdictOn(judgement)));
+  register_->AfterAdvice(static_cast<tactix::qt::DecisionRegiLOG::AfterAdvicePossibilities>(VerdictOn(judgement)));
 }
 
 }  // namespace trainer::screens
