@@ -86,7 +86,7 @@ void DecisionToolBarControl::PlaceTheDecisionBAR() {
   if (!self) return;
   const bool running = ItsSite().UserMode();
   widgets_->DecisionBAR_ID.Visible(!running);
-  if (self) widgets_->DecisionToolBar.Visible(running);
+  widgets_->DecisionToolBar.Visible(running);
 }
 
 // The groups.

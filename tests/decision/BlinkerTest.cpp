@@ -133,6 +133,18 @@ TYPED_TEST(BlinkerTest, AFailingElementEndsTheFlashWhereItFails) {
   EXPECT_EQ(this->site_->Now(), 2200);
 }
 
+TYPED_TEST(BlinkerTest, AFlashThatFailsInAWaitPutsItsElementOn) {
+  for (const bool elementFailsToo : {false, true}) {
+    this->site_->After(100, [&] {
+      if (elementFailsToo) this->element_->OnUse = [](const std::string&) { throw Error(91); };
+      throw 13;
+    });
+    this->element_->Log.clear();
+    EXPECT_THROW(this->control_->FlashObject(this->element_), int);
+    EXPECT_EQ(this->element_->Log, (Texts{"Put Visible=False", "Put Visible=True"}));
+  }
+}
+
 TYPED_TEST(BlinkerTest, ASecondFlashRunsInsideTheFirst) {
   const auto second = std::make_shared<PropertyObject>("Visible", true);
   second->Set("DEFAULT", false);

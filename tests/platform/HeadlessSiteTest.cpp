@@ -181,6 +181,13 @@ TEST(HeadlessMenuTest, ScriptsQueueUp) {
   EXPECT_EQ(probe.recorder.Take(), Log{"MenuClosed#6"});
 }
 
+TEST(HeadlessMenuTest, ClosesWhenItsScriptFails) {
+  HeadlessProbe probe;
+  probe.site->ScriptMenu([](Menu&) { throw 13; });
+  EXPECT_THROW(probe.outer->PopUpMenu(), int);
+  EXPECT_FALSE(probe.Children().ProbeMenu.IsOpen());
+}
+
 TEST(HeadlessMenuTest, ASecondPopUpClosesTheFirstWhoseCallReturnsLater) {
   HeadlessSite site;
   OuterProbe first(site);

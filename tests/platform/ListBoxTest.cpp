@@ -420,6 +420,29 @@ TEST_P(ListBoxAppendingTest, DrawsRowsTogether) {
   list.Observe(nullptr);
 }
 
+TEST(ListBoxTest, WhatFailsInTheDrawingIsPassedOverAtItsEnd) {
+  struct FailingWatcher final : WidgetObserver {
+    int failures = 0;
+    void Changed(Widget&, Aspect) override {}
+    void RowsAppended(ListBox&, std::int32_t, std::int32_t) override {
+      if (++failures == 1) throw Error(13);
+      throw 13;
+    }
+    void Gone(Widget&) override {}
+  } watcher;
+  ListBox list;
+  list.Observe(&watcher);
+  for (int time = 1; time <= 2; ++time) {
+    {
+      const ListBox::Appending appending(list);
+      list.AddItem("row");
+    }
+    EXPECT_EQ(watcher.failures, time);
+    EXPECT_EQ(list.ListCount(), time);
+  }
+  list.Observe(nullptr);
+}
+
 void Append(ListBox& list, int count) {
   for (int i = 0; i < count; ++i) list.AddItem("row");
 }

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <vector>
 
 #include "tests/platform/ErrorCode.h"
@@ -23,12 +25,14 @@ class ForeignBlock : public Object {
  public:
   Variant Get(std::string_view name) override {
     reads.emplace_back(name);
+    if (onRead) onRead(name);
     const auto found = values.find(std::string(name));
     return found == values.end() ? Object::Get(name) : found->second;
   }
 
   std::map<std::string, Variant> values;
   std::vector<std::string> reads;
+  std::function<void(std::string_view name)> onRead;
 };
 
 std::shared_ptr<ForeignBlock> FullForeignBlock() {
@@ -187,6 +191,43 @@ TEST(BlockReaderTest, DecodingABlockKeepsTheTextBuffers) {
   EXPECT_EQ(into.PlayerName(), "another name too long to be kept in place");
   EXPECT_EQ(into.PlayerName().data(), name);
   EXPECT_EQ(into.MidCardsAre().data(), wording);
+}
+
+/// What a reader for a control watches.
+struct Reading : Trackable {};
+
+TEST(BlockReaderTest, AsksNothingMoreOnceItsControlIsGone) {
+  auto control = std::make_unique<Reading>();
+  const auto foreign = FullForeignBlock();
+  auto block = std::make_unique<DecisionBlock>(FullBlock());
+  const BlockReader byName(Variant(foreign), *control);
+  const BlockReader direct(*block, *control);
+  for (const BlockReader* reader : {&byName, &direct}) EXPECT_EQ(reader->Value(BlockField::PlayerName), "Ann");
+  foreign->reads.clear();
+  control.reset();
+  block.reset();
+  for (const BlockReader* reader : {&byName, &direct}) {
+    EXPECT_TRUE(reader->Value(BlockField::PlayerName).IsEmpty());
+    std::string text = "before";
+    reader->AppendText(BlockField::PlayerName, text);
+    reader->AppendText(BlockField::HardTotal, text);
+    EXPECT_EQ(text, "before");
+  }
+  EXPECT_EQ(foreign->reads, std::vector<std::string>{});
+}
+
+TEST(BlockReaderTest, DecodesNothingMoreOnceItsControlIsGone) {
+  for (std::size_t last = 0; last < std::size(Order); ++last) {
+    auto control = std::make_unique<Reading>();
+    const auto foreign = FullForeignBlock();
+    foreign->onRead = [&](std::string_view name) {
+      if (name == Order[last]) control.reset();
+    };
+    DecisionBlock into = EarlierBlock();
+    DecodeBlock(BlockReader(Variant(foreign), *control), into);
+    EXPECT_EQ(foreign->reads.size(), last + 1);
+    EXPECT_EQ(into.Get(Order[last]), EarlierBlock().Get(Order[last]));
+  }
 }
 
 TEST(BlockReaderTest, ADecodedCopyStoresNoEleven) {

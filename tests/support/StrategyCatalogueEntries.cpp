@@ -91,6 +91,7 @@ CatalogueEntry NumberedListEntry(std::string name, const std::string& toolTip = 
 class DescribedCountList final : public CountStrategyList {
  public:
   explicit DescribedCountList(Site& site) : CountStrategyList(site) {}
+  ~DescribedCountList() override { MarkAsGone(); }
 
  private:
   static std::shared_ptr<InstalledCatalogue> Shared() {

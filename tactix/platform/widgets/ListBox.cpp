@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Tolerance.h"
 
 namespace tactix {
 
@@ -36,7 +35,10 @@ void ListBox::Append(std::string item) {
 ListBox::Appending::Appending(ListBox& list) : list_(list) { ++list.appendings_; }
 
 ListBox::Appending::~Appending() {
-  IgnoringErrors([this] { End(); });
+  try {
+    End();
+  } catch (...) {
+  }
 }
 
 void ListBox::Appending::End() {

@@ -34,7 +34,7 @@ class TACTIX_EXPORT ListBox final : public Widget {
     explicit Appending(ListBox& list);
     Appending(const Appending&) = delete;
     Appending& operator=(const Appending&) = delete;
-    /// Ends it where End() has not; an error of the drawing is then passed over.
+    /// Ends it where End() has not; whatever the drawing fails with is then passed over.
     ~Appending();
 
     void End();
