@@ -311,6 +311,10 @@ void DecisionToolBarControl::AmbientChanged() {
 void DecisionToolBarControl::ReadProperties(PropertyBag& bag) {
   const Weak<DecisionToolBarControl> self(this);
   Control::ReadProperties(bag);
+  if (!self) return;
+  std::int32_t alignment = Bottom;
+  IgnoringErrors([&] { alignment = bag.Read(AlignmentName, Bottom).ToLong(); });
+  if (self) Alignment(alignment);
   if (self) PlaceTheDecisionBAR();
 }
 
@@ -327,12 +331,10 @@ const PropertyTable& DecisionToolBarControl::Properties() const {
       PropertyTable()
           .FailedReads(OnFailedRead::TakeTheDefault)
           .FailedWrites(OnFailure::Report)
-          // Saved as bottom whatever the docking is, and before all others, although it is read last: saved forms rely
-          // on it.
-          .SavedBeside({.name = std::string(AlignmentName),
-                        .defaultValue = PropertyTable::Always(Bottom),
-                        .value = PropertyTable::Always(Bottom),
-                        .always = true})
+          // Saved as bottom whatever the docking is, and before all others, although it is read after them: saved forms
+          // rely on it.
+          .Property(AlignmentName, &Self::Alignment, &Self::Alignment)
+          .Saved(Bottom, {.ways = SavedWays::SavedOnly, .value = PropertyTable::Always(Bottom), .always = true})
           .Property("HitcardButtonsVisibility", &Self::HitcardButtonsVisibility, &Self::HitcardButtonsVisibility)
           .Saved(0, saved(ButtonGroup::HitCard))
           .Property("HolecardButtonsVisibility", &Self::HolecardButtonsVisibility, &Self::HolecardButtonsVisibility)
@@ -345,8 +347,6 @@ const PropertyTable& DecisionToolBarControl::Properties() const {
           .Property("StatusButtonButtonVisibility", &Self::StatusButtonButtonVisibility,
                     &Self::StatusButtonButtonVisibility)
           .Saved(0, saved(ButtonGroup::Status))
-          .Property(AlignmentName, &Self::Alignment, &Self::Alignment)
-          .Saved(Bottom, {.ways = SavedWays::RestoredOnly})
           .GetOnly("thisKelvoEdition", &Self::thisKelvoEdition)
           .Property("KelvoEdition", &Self::KelvoEdition, &Self::KelvoEdition)
           .Property("ResetPredictionButtons", &Self::ResetPredictionButtons, &Self::ResetPredictionButtons);

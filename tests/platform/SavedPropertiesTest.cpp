@@ -78,21 +78,21 @@ class Sample final : public Control {
   float back_ = 0;
 };
 
-class PropertyTableTest : public testing::Test {
+class SavedPropertiesTest : public testing::Test {
  protected:
   HeadlessSite site_;
   std::unique_ptr<Sample> sample_ = std::make_unique<Sample>(site_);
   LoggingBag bag_;
 };
 
-TEST_F(PropertyTableTest, SavesInTheOrderOfItsRows) {
+TEST_F(SavedPropertiesTest, SavesInTheOrderOfItsRows) {
   sample_->WriteProperties(bag_);
   EXPECT_EQ(bag_.log, (Log{"write Plain", "write Stored", "write Re-named", "write Tint", "write Beside"}));
   EXPECT_EQ(bag_.defaults, (Log{"Plain=7", "Re-named=default of x", "Tint=0", "Beside=9"}));
   EXPECT_EQ(bag_.stored.Names(), (Log{"Stored", "Re-named", "Tint", "Beside"})) << "a default is stored only if asked";
 }
 
-TEST_F(PropertyTableTest, RestoresInTheOrderOfItsRows) {
+TEST_F(SavedPropertiesTest, RestoresInTheOrderOfItsRows) {
   bag_.stored.Write("Plain", std::int16_t{5});
   bag_.stored.Write("Stored", true);
   bag_.stored.Write("Re-named", "y");
@@ -107,7 +107,7 @@ TEST_F(PropertyTableTest, RestoresInTheOrderOfItsRows) {
   EXPECT_EQ(sample_->Back(), 1.5F);
 }
 
-TEST_F(PropertyTableTest, AFailedReadIsPassedOverReportedOrGivesTheDefault) {
+TEST_F(SavedPropertiesTest, AFailedReadIsPassedOverReportedOrGivesTheDefault) {
   for (const char* hostile : {"fails", "does not convert"}) {
     LoggingBag bag;
     if (hostile[0] == 'f') {
@@ -129,7 +129,7 @@ TEST_F(PropertyTableTest, AFailedReadIsPassedOverReportedOrGivesTheDefault) {
   }
 }
 
-TEST_F(PropertyTableTest, AFailedWriteIsPassedOverOrReported) {
+TEST_F(SavedPropertiesTest, AFailedWriteIsPassedOverOrReported) {
   bag_.failing = "Stored";
   Sample::Rows().Save(*sample_, bag_);
   EXPECT_EQ(bag_.log.back(), "write Beside");
@@ -137,13 +137,13 @@ TEST_F(PropertyTableTest, AFailedWriteIsPassedOverOrReported) {
   EXPECT_EQ(bag_.log.back(), "write Stored");
 }
 
-TEST_F(PropertyTableTest, AnythingThatIsNoErrorReachesTheContainer) {
+TEST_F(SavedPropertiesTest, AnythingThatIsNoErrorReachesTheContainer) {
   sample_->OnNote = [](const std::string&) { throw 4711; };
   EXPECT_THROW(sample_->ReadProperties(bag_), int);
   EXPECT_THROW(sample_->WriteProperties(bag_), int);
 }
 
-TEST_F(PropertyTableTest, EndsWhereTheBagDestroysTheControl) {
+TEST_F(SavedPropertiesTest, EndsWhereTheBagDestroysTheControl) {
   for (const bool writing : {false, true}) {
     for (std::size_t at = 1; at <= 4; ++at) {
       sample_ = std::make_unique<Sample>(site_);
@@ -157,13 +157,13 @@ TEST_F(PropertyTableTest, EndsWhereTheBagDestroysTheControl) {
   }
 }
 
-TEST_F(PropertyTableTest, AValueThatDestroysTheControlIsNotWritten) {
+TEST_F(SavedPropertiesTest, AValueThatDestroysTheControlIsNotWritten) {
   sample_->OnNote = [this](const std::string&) { sample_.reset(); };
   sample_->WriteProperties(bag_);
   EXPECT_EQ(bag_.log.back(), "write Tint");
 }
 
-TEST_F(PropertyTableTest, ARowKnowsItsTypeAndItsSavedName) {
+TEST_F(SavedPropertiesTest, ARowKnowsItsTypeAndItsSavedName) {
   const struct {
     const char* name;
     ValueKind kind;
@@ -182,7 +182,7 @@ TEST_F(PropertyTableTest, ARowKnowsItsTypeAndItsSavedName) {
   }
 }
 
-TEST_F(PropertyTableTest, APublicFieldIsAProperty) {
+TEST_F(SavedPropertiesTest, APublicFieldIsAProperty) {
   const ObjectRef handle = sample_->Handle();
   handle->Put("loose", "text");
   EXPECT_EQ(sample_->Loose, "text");
