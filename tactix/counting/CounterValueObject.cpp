@@ -7,7 +7,8 @@ namespace tactix {
 namespace {
 
 FactoryHook<std::shared_ptr<CounterValueObject>>& TheHook() {
-  static FactoryHook<std::shared_ptr<CounterValueObject>> hook("a counter value", "tactix::CounterValueObject::CreateWith");
+  static FactoryHook<std::shared_ptr<CounterValueObject>> hook("a counter value",
+                                                               "tactix::CounterValueObject::CreateWith");
   return hook;
 }
 

@@ -50,7 +50,8 @@ class TACTIX_EXPORT AdviceButton : public Control {
   std::int16_t WhichStrategyToUse() const { return whichStrategyToUse_; }
   void WhichStrategyToUse(std::int16_t strategy) { whichStrategyToUse_ = strategy; }
 
-  // The list inside. Players open it with "Select Strategy"; it fills itself from the catalogue when it is first opened.
+  // The list inside. Players open it with "Select Strategy"; it fills itself from the catalogue when it is first
+  // opened.
 
   /// Fills the list anew, for a catalogue that has changed. Fails as StrategyList::LoadStrategiesFromIniFile does.
   void RefillStrategyList();

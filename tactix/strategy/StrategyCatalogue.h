@@ -22,9 +22,9 @@ static_assert(sizeof(StrategyRange) == 10 && std::is_trivially_copyable_v<Strate
 
 /// The application's strategies, described in texts that the lists take apart. The host supplies it, or
 /// companion::Install does. Playing and betting strategies are numbered from -1 (the empty seat) up; count systems have
-/// a table and a numbering of their own. Numbers should be without gaps: a compact list and a list of betting strategies
-/// leave rows out where nothing is described, and report a row's place as its number, so that every row behind a gap
-/// stands for a lower number than it was described under.
+/// a table and a numbering of their own. Numbers should be without gaps: a compact list and a list of betting
+/// strategies leave rows out where nothing is described, and report a row's place as its number, so that every row
+/// behind a gap stands for a lower number than it was described under.
 ///
 /// A catalogue overrides GetStrategyRange, and of the descriptions those that it has. DescribePlayingStrategy and
 /// DescribeCountSystem are the same as the two DescribeStrategy, but do not hide each other.
