@@ -18,11 +18,6 @@ namespace tactix {
 
 enum class VariantType { Empty, Null, Boolean, Integer, Long, Single, Double, Text, Font, Object };
 
-/// Characters are no numbers.
-template <class T>
-inline constexpr bool IsCharacter = std::same_as<T, char> || std::same_as<T, wchar_t> || std::same_as<T, char8_t> ||
-                                    std::same_as<T, char16_t> || std::same_as<T, char32_t>;
-
 /// A value whose type is known only while the program runs: what late-bound properties and saved ones are made of.
 /// Empty by default.
 ///
@@ -42,7 +37,7 @@ class TACTIX_EXPORT Variant {
   /// Of the other whole numbers and of an enumeration's rows: a Long, or a Double where it is beyond 32 bits, which
   /// holds whole numbers up to 2 to the 53rd exactly.
   template <std::integral T>
-  requires(!std::same_as<T, bool> && !IsCharacter<T>) Variant(T value) {
+  requires(!std::same_as<T, bool>) Variant(T value) {
     if (std::in_range<std::int32_t>(value)) {
       value_ = static_cast<std::int32_t>(value);
     } else {

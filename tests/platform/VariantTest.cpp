@@ -57,12 +57,10 @@ TEST(VariantTest, TypeOfEveryKindOfValue) {
   }
 }
 
-TEST(VariantTest, TakesNothingThatWouldSlipInAsAFlagOrLoseDigits) {
+TEST(VariantTest, TakesNoPointerThatWouldSlipInAsAFlag) {
   static_assert(!std::is_convertible_v<int*, Variant>);
   static_assert(!std::is_convertible_v<void*, Variant>);
   static_assert(!std::is_convertible_v<std::shared_ptr<int>, Variant>);
-  static_assert(!std::is_convertible_v<std::int64_t, Variant>);
-  static_assert(!std::is_convertible_v<std::size_t, Variant>);
   static_assert(std::is_convertible_v<std::nullptr_t, Variant>);
   EXPECT_EQ(Variant("x").Type(), VariantType::Text);
 }
@@ -491,7 +489,6 @@ TEST(VariantTest, TakesEveryWholeNumber) {
     EXPECT_EQ(row.value.Type(), row.type) << row.name;
     EXPECT_EQ(row.value.ToDouble(), row.number) << row.name;
   }
-  static_assert(!std::is_constructible_v<Variant, wchar_t>, "a character is no number");
 }
 
 }  // namespace
