@@ -1,30 +1,23 @@
 #include "tactix/counting/CounterValueObject.h"
 
-#include <utility>
-
-#include "tactix/platform/Error.h"
+#include "tactix/platform/FactoryHook.h"
 
 namespace tactix {
 
 namespace {
 
-CounterValueObject::Factory& TheFactory() {
-  static CounterValueObject::Factory factory;
-  return factory;
+FactoryHook<std::shared_ptr<CounterValueObject>>& TheHook() {
+  static FactoryHook<std::shared_ptr<CounterValueObject>> hook("a counter value",
+                                                               "tactix::CounterValueObject::CreateWith");
+  return hook;
 }
 
 }  // namespace
 
 CounterValueObject::~CounterValueObject() = default;
 
-// The old factory is destroyed after the new one is in place, because destroying it may run host code.
-void CounterValueObject::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
+void CounterValueObject::CreateWith(Factory factory) { TheHook().CreateWith(std::move(factory)); }
 
-std::shared_ptr<CounterValueObject> CounterValueObject::Create() {
-  const Factory create = TheFactory();  // a copy: it may set another factory while it runs
-  std::shared_ptr<CounterValueObject> value = create ? create() : nullptr;
-  if (!value) throw Error(Error::ObjectNotSet);
-  return value;
-}
+std::shared_ptr<CounterValueObject> CounterValueObject::Create() { return TheHook().Create(); }
 
 }  // namespace tactix

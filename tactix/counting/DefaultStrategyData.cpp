@@ -1,28 +1,20 @@
 #include "tactix/counting/DefaultStrategyData.h"
 
-#include <utility>
-
-#include "tactix/platform/Error.h"
+#include "tactix/platform/FactoryHook.h"
 
 namespace tactix {
 
 namespace {
 
-DefaultStrategyData::Factory& TheFactory() {
-  static DefaultStrategyData::Factory factory;
-  return factory;
+FactoryHook<ObjectRef>& TheHook() {
+  static FactoryHook<ObjectRef> hook("a strategy data block", "tactix::DefaultStrategyData::CreateWith");
+  return hook;
 }
 
 }  // namespace
 
-// The old factory is destroyed after the new one is in place, because destroying it may run host code.
-void DefaultStrategyData::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
+void DefaultStrategyData::CreateWith(Factory factory) { TheHook().CreateWith(std::move(factory)); }
 
-ObjectRef DefaultStrategyData::Create() {
-  const Factory create = TheFactory();  // a copy: it may set another factory while it runs
-  ObjectRef block = create ? create() : nullptr;
-  if (!block) throw Error(Error::ObjectNotSet);
-  return block;
-}
+ObjectRef DefaultStrategyData::Create() { return TheHook().Create(); }
 
 }  // namespace tactix

@@ -134,7 +134,33 @@ void AdviceButton::FillTheList() {
   }
 }
 
+void AdviceButton::RefillStrategyList() {
+  const Weak<AdviceButton> self(this);
+  fillBrokeOff_ = true;
+  Children.StrategyListBox.LoadStrategiesFromIniFile();
+  if (self) fillBrokeOff_ = false;
+}
+
+void AdviceButton::PreselectStrategy(std::int16_t strategy) {
+  struct Quiet {
+    explicit Quiet(AdviceButton& button) : button_(button) { button.isPreselecting_ = true; }
+    ~Quiet() {
+      if (button_) button_->isPreselecting_ = false;
+    }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+    const Weak<AdviceButton> button_;
+  };
+  const Weak<AdviceButton> self(this);
+  if (NeedsAFill()) FillTheList();
+  if (!self) return;
+  const Quiet quiet(*this);
+  Children.StrategyListBox.ListIndex(strategy);
+}
+
 void AdviceButton::StrategySelected(std::int32_t strategy) {
+  if (isPreselecting_) return;
   const Weak<AdviceButton> self(this);
   Children.StrategyListBox.Extender().Visible(false);
   if (!self) return;
@@ -161,6 +187,8 @@ const MethodTable& AdviceButton::Methods() const {
   using Self = AdviceButton;
   static const MethodTable table = MethodTable()
                                        .Method("AdviceStrategyList", &Self::AdviceStrategyList)
+                                       .Method("RefillStrategyList", &Self::RefillStrategyList)
+                                       .Method("PreselectStrategy", &Self::PreselectStrategy)
                                        .Method("BlinkIfNecessary", &Self::BlinkIfNecessary)
                                        .Method("BlinkTime", &Self::BlinkTime)
                                        .Method("FlashObject", &Self::FlashObject);

@@ -50,6 +50,18 @@ class TACTIX_EXPORT AdviceButton : public Control {
   std::int16_t WhichStrategyToUse() const { return whichStrategyToUse_; }
   void WhichStrategyToUse(std::int16_t strategy) { whichStrategyToUse_ = strategy; }
 
+  // The list inside. Players open it with "Select Strategy"; it fills itself from the catalogue when it is first
+  // opened.
+
+  /// Fills the list anew, for a catalogue that has changed. Fails as StrategyList::LoadStrategiesFromIniFile does.
+  void RefillStrategyList();
+  /// Selects a strategy in the list, which is filled first where it has no rows yet. Raises nothing: it is the host's
+  /// choice, not the player's. A strategy without a row fails with 380.
+  void PreselectStrategy(std::int16_t strategy);
+  /// The list itself, to add rows of the host's own or to look at it.
+  StrategyList& InnerList() { return Children.StrategyListBox; }
+  const StrategyList& InnerList() const { return Children.StrategyListBox; }
+
   void Resized() override;
   void GotFocus() override;
   const PropertyTable& Properties() const override;
@@ -99,6 +111,7 @@ class TACTIX_EXPORT AdviceButton : public Control {
 
   Blinker blinker_;
   bool fillBrokeOff_ = false;
+  bool isPreselecting_ = false;
   std::int16_t blinkMode_ = 0;
   std::int16_t whichStrategyToUse_ = 0;
 };

@@ -86,6 +86,9 @@ class TACTIX_EXPORT Decision : public Control {
   void DecisionMade();
   /// Replaces the advised decision, coded as in AdvicePossibilities.
   void GiveAdvice(std::int16_t recommendedAdvice);
+  /// The advice button inside the box: for its caption, its list of strategies and the strategy selected there.
+  tactix::AdviceButton& InnerAdviceButton() { return Children.AdviceButton; }
+  const tactix::AdviceButton& InnerAdviceButton() const { return Children.AdviceButton; }
   /// Lets the advice button blink if its settings say so.
   void HandleAdviceConsiderations();
   /// Four rounds of hidden 0.2 s and shown 0.2 s, then sets "DEFAULT". The object needs "Visible" and "DEFAULT".

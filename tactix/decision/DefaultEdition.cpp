@@ -1,28 +1,20 @@
 #include "tactix/decision/DefaultEdition.h"
 
-#include <utility>
-
-#include "tactix/platform/Error.h"
+#include "tactix/platform/FactoryHook.h"
 
 namespace tactix {
 
 namespace {
 
-DefaultEdition::Factory& TheFactory() {
-  static DefaultEdition::Factory factory;
-  return factory;
+FactoryHook<ObjectRef>& TheHook() {
+  static FactoryHook<ObjectRef> hook("an edition object", "tactix::DefaultEdition::CreateWith");
+  return hook;
 }
 
 }  // namespace
 
-// The old factory is destroyed after the new one is in place, because destroying it may run host code.
-void DefaultEdition::CreateWith(Factory factory) { std::swap(TheFactory(), factory); }
+void DefaultEdition::CreateWith(Factory factory) { TheHook().CreateWith(std::move(factory)); }
 
-ObjectRef DefaultEdition::Create() {
-  const Factory create = TheFactory();  // a copy: it may set another factory while it runs
-  ObjectRef edition = create ? create() : nullptr;
-  if (!edition) throw Error(Error::ObjectNotSet);
-  return edition;
-}
+ObjectRef DefaultEdition::Create() { return TheHook().Create(); }
 
 }  // namespace tactix

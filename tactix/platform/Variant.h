@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <variant>
 
@@ -33,6 +34,18 @@ class TACTIX_EXPORT Variant {
   Variant(std::int32_t value) : value_(value) {}
   Variant(float value) : value_(value) {}
   Variant(double value) : value_(value) {}
+  /// Of the other whole numbers and of an enumeration's rows: a Long, or a Double where it is beyond 32 bits, which
+  /// holds whole numbers up to 2 to the 53rd exactly.
+  template <std::integral T>
+  requires(!std::same_as<T, bool>) Variant(T value) {
+    if (std::in_range<std::int32_t>(value)) {
+      value_ = static_cast<std::int32_t>(value);
+    } else {
+      value_ = static_cast<double>(value);
+    }
+  }
+  template <class Row>
+  requires std::is_enum_v<Row> Variant(Row row) : Variant(static_cast<std::underlying_type_t<Row>>(row)) {}
   /// A null pointer is the empty text.
   Variant(const char* text) : value_(std::in_place_type<std::string>, text ? text : "") {}
   Variant(std::string_view text) : value_(std::in_place_type<std::string>, text) {}

@@ -17,6 +17,8 @@ class Coded {
   constexpr Coded(std::int32_t value) : value_(value) {}
 
   constexpr std::int32_t Value() const { return value_; }
+  /// As a Long.
+  operator Variant() const { return value_; }
   /// For switches. Need not be one of E's rows.
   constexpr E Row() const { return static_cast<E>(value_); }
 

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <iterator>
+#include <utility>
 
+#include "tactix/platform/Error.h"
 #include "tactix/platform/Variant.h"
 
 namespace tactix {
@@ -70,9 +72,11 @@ const FieldAccess* FindAccess(std::string_view name) {
 
 }  // namespace
 
-Variant DecisionBlock::Get(std::string_view name) {
-  const FieldAccess* access = FindAccess(name);
-  return access ? access->get(*this) : Object::Get(name);
+Variant DecisionBlock::Get(std::string_view name) { return std::as_const(*this).Get(name); }
+
+Variant DecisionBlock::Get(std::string_view name) const {
+  if (const FieldAccess* access = FindAccess(name)) return access->get(*this);
+  throw Error(Error::NoSuchMember);
 }
 
 void DecisionBlock::Put(std::string_view name, const Variant& value) {

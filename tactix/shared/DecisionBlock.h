@@ -61,6 +61,7 @@ class TACTIX_EXPORT DecisionBlock final : public Object {
   void PlayingLogEnabled(bool enabled) { playingLogEnabled_ = enabled; }
 
   Variant Get(std::string_view name) override;
+  Variant Get(std::string_view name) const;
   void Put(std::string_view name, const Variant& value) override;
 
   /// Get and Put by field instead of by name.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "tactix/platform/Error.h"
+#include "tactix/platform/FactoryHook.h"
 #include "tactix/platform/Utf8.h"
 
 namespace tactix {
@@ -12,7 +13,8 @@ namespace {
 
 struct Shared {
   std::shared_ptr<StrategyCatalogue> catalogue;
-  StrategyListData::CatalogueFactory createCatalogue;
+  FactoryHook<std::shared_ptr<StrategyCatalogue>> hook{"a strategy catalogue",
+                                                       "tactix::StrategyListData::CreateCatalogueWith"};
   DescriptionBuffer buffer;
 };
 
@@ -60,9 +62,7 @@ void DescriptionBuffer::Write(std::string_view text) {
 std::shared_ptr<StrategyCatalogue> StrategyListData::Catalogue() {
   Shared& shared = TheShared();
   if (!shared.catalogue) {
-    const CatalogueFactory create = shared.createCatalogue;  // a copy: it may set another factory while it runs
-    std::shared_ptr<StrategyCatalogue> made = create ? create() : nullptr;
-    if (!made) throw Error(Error::ObjectNotSet);
+    std::shared_ptr<StrategyCatalogue> made = shared.hook.Create();
     // The factory may have set a catalogue itself. That one is released last, which may run host code.
     const std::shared_ptr<StrategyCatalogue> before = std::exchange(shared.catalogue, made);
     return made;
@@ -70,14 +70,13 @@ std::shared_ptr<StrategyCatalogue> StrategyListData::Catalogue() {
   return shared.catalogue;
 }
 
-// In both, the old value is destroyed after the new one is in place, because that may run host code.
-
 void StrategyListData::UseCatalogue(std::shared_ptr<StrategyCatalogue> catalogue) {
+  // The old one is destroyed after the new one is in place, because that may run host code.
   std::swap(TheShared().catalogue, catalogue);
 }
 
 void StrategyListData::CreateCatalogueWith(CatalogueFactory factory) {
-  std::swap(TheShared().createCatalogue, factory);
+  TheShared().hook.CreateWith(std::move(factory));
 }
 
 DescriptionBuffer& StrategyListData::Buffer() { return TheShared().buffer; }

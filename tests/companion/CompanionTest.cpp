@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tactix/companion/IniStrategyCatalogue.h"
+#include "tactix/counting/CounterValueObject.h"
 #include "tactix/counting/DefaultStrategyData.h"
 #include "tactix/decision/DecisionBAR2.h"
 #include "tactix/decision/DefaultEdition.h"
@@ -79,6 +80,50 @@ TEST_F(CompanionTest, InstallingKeepsTheHostsCatalogue) {
   StrategyListData::UseCatalogue(own);
   companion::Install();
   EXPECT_EQ(StrategyListData::Catalogue().get(), own.get());
+}
+
+TEST_F(CompanionTest, WithoutItAnErrorSaysWhatToCall) {
+  CounterValueObject::CreateWith(nullptr);
+  const struct {
+    const char* hook;
+    void (*create)();
+  } rows[] = {
+      {"tactix::DefaultEdition::CreateWith", [] { DefaultEdition::Create(); }},
+      {"tactix::DefaultStrategyData::CreateWith", [] { DefaultStrategyData::Create(); }},
+      {"tactix::CounterValueObject::CreateWith", [] { CounterValueObject::Create(); }},
+      {"tactix::StrategyListData::CreateCatalogueWith", [] { StrategyListData::Catalogue(); }},
+  };
+  for (const auto& row : rows) {
+    try {
+      row.create();
+      ADD_FAILURE() << row.hook;
+    } catch (const Error& error) {
+      EXPECT_EQ(error.Code(), 91) << row.hook;
+      EXPECT_NE(error.Description().find("tactix::companion::Install()"), std::string::npos) << error.Description();
+      EXPECT_NE(error.Description().find(row.hook), std::string::npos) << error.Description();
+    }
+  }
+}
+
+/// A host's catalogue that has count systems and nothing else.
+class CountsOnly final : public StrategyCatalogue {
+ public:
+  std::string DescribeCountSystem(std::int16_t number) override {
+    return number == 13 ? "a,b,False True 1 0 0 52 " : "";
+  }
+  StrategyRange GetStrategyRange() override { return {}; }
+};
+
+TEST_F(CompanionTest, ACatalogueOverridesWhatItHas) {
+  CountsOnly counts;
+  std::string text = "before";
+  counts.DescribeStrategy(std::int16_t{12}, text);
+  EXPECT_EQ(text, "");
+  counts.DescribeStrategy(std::int16_t{13}, text);
+  EXPECT_EQ(text, "a,b,False True 1 0 0 52 ");
+  std::int16_t number = 13;
+  EXPECT_EQ(counts.DescribeStrategy(number), "");
+  EXPECT_EQ(counts.DescribeBettingStrategy(number), "");
 }
 
 }  // namespace

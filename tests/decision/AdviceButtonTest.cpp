@@ -366,5 +366,34 @@ TEST_F(AdviceButtonTest, KeepsTheListsNoticesToItself) {
   EXPECT_EQ(site_.Changes(), Texts{});
 }
 
+TEST_F(AdviceButtonTest, AHostPreselectsQuietly) {
+  InstalledCatalogue catalogue;
+  catalogue->Playing = {{-1, "note,seat,False True"}, {0, "note,zero,False True"}, {1, "note,one,False True"}};
+  catalogue->Range.HighestPlayingStrategy = 1;
+  button_->PreselectStrategy(1);
+  EXPECT_EQ(button_->InnerList().ListIndex(), 1) << "filled first, as it was empty";
+  EXPECT_EQ(recorder_.Take(), Texts{});
+  EXPECT_EQ(ErrorCodeOf([&] { return button_->PreselectStrategy(2), 0; }), 380);
+  EXPECT_EQ(button_->InnerList().ListIndex(), 1);
+  // The player's own choice is reported as ever.
+  button_->InnerList().Extender().Visible(true);
+  children_.StrategyListBox.Children.StrategyListBox.PickRow(1);
+  EXPECT_EQ(recorder_.Take(), Texts{"AdviceStrategySelected#3(0)"});
+}
+
+TEST_F(AdviceButtonTest, AHostRefillsTheListOfACatalogueThatHasChanged) {
+  EXPECT_EQ(ErrorCodeOf([&] { return button_->RefillStrategyList(), 0; }), 91);
+  InstalledCatalogue catalogue;
+  catalogue->Playing = {{-1, "note,seat,False True"}};
+  catalogue->Range.HighestPlayingStrategy = -1;
+  button_->RefillStrategyList();
+  const ListBox& box = button_->InnerList().Children.StrategyListBox;
+  EXPECT_EQ(box.ListCount(), 1);
+  catalogue->Playing[0] = "note,zero,False True";
+  catalogue->Range.HighestPlayingStrategy = 0;
+  button_->RefillStrategyList();
+  EXPECT_EQ(box.ListCount(), 2);
+}
+
 }  // namespace
 }  // namespace tactix::tests

@@ -57,12 +57,10 @@ TEST(VariantTest, TypeOfEveryKindOfValue) {
   }
 }
 
-TEST(VariantTest, TakesNothingThatWouldSlipInAsAFlagOrLoseDigits) {
+TEST(VariantTest, TakesNoPointerThatWouldSlipInAsAFlag) {
   static_assert(!std::is_convertible_v<int*, Variant>);
   static_assert(!std::is_convertible_v<void*, Variant>);
   static_assert(!std::is_convertible_v<std::shared_ptr<int>, Variant>);
-  static_assert(!std::is_convertible_v<std::int64_t, Variant>);
-  static_assert(!std::is_convertible_v<std::size_t, Variant>);
   static_assert(std::is_convertible_v<std::nullptr_t, Variant>);
   EXPECT_EQ(Variant("x").Type(), VariantType::Text);
 }
@@ -466,6 +464,31 @@ TEST(VariantTest, LateBoundSumOfWhatHasNone) {
   EXPECT_EQ(ErrorCodeOf([] { return Add(std::make_shared<Seat>(), 1); }), 13);
   EXPECT_EQ(ErrorCodeOf([] { return Add(1, nullptr); }), 91);
   EXPECT_EQ(ErrorCodeOf([] { return Add(1.7e308, 1.7e308); }), 6);
+}
+
+enum class Suit : std::uint8_t { Clubs = 3 };
+
+TEST(VariantTest, TakesEveryWholeNumber) {
+  const struct {
+    const char* name;
+    Variant value;
+    VariantType type;
+    double number;
+  } rows[] = {
+      {"long", 70000L, VariantType::Long, 70000},
+      {"long that is too long", 5'000'000'000L, VariantType::Double, 5e9},
+      {"64 bits", std::int64_t{-2147483649}, VariantType::Double, -2147483649.0},
+      {"lowest Long", std::int64_t{-2147483648}, VariantType::Long, -2147483648.0},
+      {"unsigned", 7U, VariantType::Long, 7},
+      {"unsigned beyond Long", 4294967295U, VariantType::Double, 4294967295.0},
+      {"size", sizeof(int), VariantType::Long, sizeof(int)},
+      {"byte", std::uint8_t{200}, VariantType::Long, 200},
+      {"row", Suit::Clubs, VariantType::Long, 3},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(row.value.Type(), row.type) << row.name;
+    EXPECT_EQ(row.value.ToDouble(), row.number) << row.name;
+  }
 }
 
 }  // namespace

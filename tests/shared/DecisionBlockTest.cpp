@@ -237,5 +237,13 @@ TEST(DecisionBlockTest, ACopyKeepsWhatIsStored) {
   EXPECT_EQ(copy.SoftTotal(), 21);
 }
 
+TEST(DecisionBlockTest, ABlockThatDoesNotChangeCanBeReadByName) {
+  DecisionBlock block;
+  block.HardTotal(16);
+  const DecisionBlock& constant = block;
+  EXPECT_EQ(constant.Get("hardtotal"), 16);
+  EXPECT_EQ(ErrorCodeOf([&] { return constant.Get("Nothing"); }), 438);
+}
+
 }  // namespace
 }  // namespace tactix

@@ -84,6 +84,8 @@ CatalogueEntry AdviceButtonEntry() {
   entry.drives = {
       DriveOf<Button>("AdviceStrategyList",
                       [](CallOutHost& host, Button& button) { button.AdviceStrategyList(host.Collection()); }),
+      DriveOf<Button>("RefillStrategyList", [](CallOutHost&, Button& button) { button.RefillStrategyList(); }),
+      DriveOf<Button>("PreselectStrategy", [](CallOutHost&, Button& button) { button.PreselectStrategy(0); }),
       DriveOf<Button>("BlinkIfNecessary",
                       [](CallOutHost& host, Button& button) {
                         const Weak<Button> self(button);
