@@ -8,6 +8,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "tactix-qt/AdviceButton.h"
 #include "tactix-qt/DecisionRegister.h"
@@ -36,16 +37,26 @@ QFont Larger() {
 QWidget& CaptionOf(qt::AdviceButton& button) { return *NativeOf(button.control().Children.cmdAdviceButton); }
 QWidget& NumberOf(qt::SpinCounter& counter) { return *NativeOf(counter.control().Children.labelCardsInStack); }
 
+/// Not findChildren<P*>(), which takes every button of Qt's for a peer.
+template <class P>
+std::vector<P*> PeersIn(const QWidget& widget) {
+  std::vector<P*> peers;
+  for (QWidget* child : widget.findChildren<QWidget*>()) {
+    if (auto* peer = dynamic_cast<P*>(child)) peers.push_back(peer);
+  }
+  return peers;
+}
+
 class ControlFontTest : public testing::TestWithParam<ControlClass> {};
 
 TEST_P(ControlFontTest, TheHostsFontReachesEveryTextAndLeavesAgain) {
   const std::unique_ptr<qt::ControlWidget> widget = GetParam().Make();
   std::vector<QWidget*> texts;
   const auto collect = [&texts](auto peers) { texts.insert(texts.end(), peers.begin(), peers.end()); };
-  collect(widget->findChildren<qt::LabelPeer*>());
-  collect(widget->findChildren<qt::ListBoxPeer*>());
-  collect(widget->findChildren<qt::PushButtonPeer*>());
-  collect(widget->findChildren<qt::OptionButtonPeer*>());
+  collect(PeersIn<qt::LabelPeer>(*widget));
+  collect(PeersIn<qt::ListBoxPeer>(*widget));
+  collect(PeersIn<qt::PushButtonPeer>(*widget));
+  collect(PeersIn<qt::OptionButtonPeer>(*widget));
   ASSERT_FALSE(texts.empty());
   std::vector<QFont> designed;
   for (const QWidget* text : texts) designed.push_back(text->font());
@@ -99,10 +110,10 @@ TEST_P(ControlFontTest, NoTextIsCutInALayout) {
           << peer->objectName().toStdString();
     }
   };
-  check(widget->findChildren<qt::LabelPeer*>());
-  check(widget->findChildren<qt::ListBoxPeer*>());
-  check(widget->findChildren<qt::PushButtonPeer*>());
-  check(widget->findChildren<qt::OptionButtonPeer*>());
+  check(PeersIn<qt::LabelPeer>(*widget));
+  check(PeersIn<qt::ListBoxPeer>(*widget));
+  check(PeersIn<qt::PushButtonPeer>(*widget));
+  check(PeersIn<qt::OptionButtonPeer>(*widget));
 }
 
 TEST_P(ControlFontTest, ListsAndSpinCountersAreFixedInHeight) {
@@ -149,7 +160,7 @@ TEST(HostFontTest, ReachesWhatIsRestoredWithoutAFontOfItsOwn) {
   MemoryBag empty;
   list.readProperties(empty);
   list.setFont(Larger());
-  EXPECT_EQ(list.findChild<qt::ListBoxPeer*>()->font().pointSizeF(), Large);
+  EXPECT_EQ(PeersIn<qt::ListBoxPeer>(list)[0]->font().pointSizeF(), Large);
 }
 
 TEST(HostFontTest, TheHintFollowsThePropertyAndTheApplicationToo) {
