@@ -5,6 +5,7 @@
 namespace tactix::qt {
 
 ClumpCardList::ClumpCardList(QWidget* parent) : WidgetOf(parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   Relay(&Core::EventSet::ClumpValueSelected, &ClumpCardList::ClumpValueSelected);
 }
 

@@ -12,6 +12,7 @@
 #include "tactix-qt/peers/Keys.h"
 #include "tactix-qt/peers/PeerTree.h"
 #include "tactix-qt/peers/RootPeer.h"
+#include "tactix-qt/peers/TextGrowth.h"
 #include "tactix/platform/UserAction.h"
 
 namespace tactix::qt {
@@ -62,9 +63,10 @@ void ControlWidget::Own(std::unique_ptr<Control> control) {
 void ControlWidget::Host(Control& control) {
   control_ = &control;
   Extender& extender = control.Extender();
-  hint_ = QSize(ToPixels(extender.Width()), ToPixels(extender.Height()));
+  const QSize designed(ToPixels(extender.Width()), ToPixels(extender.Height()));
+  hint_ = designed;
   place_ = QPoint(ToPixels(extender.Left()), ToPixels(extender.Top()));
-  resize(hint_);
+  resize(designed);
   root_ = new RootPeer(extender, *this);
   root_->setGeometry(rect());
   MakePeers(extender, *site_, *root_);
@@ -76,6 +78,7 @@ void ControlWidget::Host(Control& control) {
   if (!extender.Visible()) setVisible(false);
   if (!extender.Enabled()) setEnabled(false);
   setToolTip(ToQt(extender.ToolTipText()));
+  FontsChanged();
   updateGeometry();
 }
 
@@ -91,12 +94,30 @@ void ControlWidget::setUserMode(bool running) {
   if (control_) RunUserAction(*site_, [this] { control_->AmbientChanged(); });
 }
 
-QSize ControlWidget::sizeHint() const { return hint_.isValid() ? hint_ : QWidget::sizeHint(); }
+void ControlWidget::readProperties(PropertyBag& bag) {
+  if (control_) RunUserAction(*site_, [&] { control_->ReadProperties(bag); });
+}
+
+void ControlWidget::writeProperties(PropertyBag& bag) {
+  if (control_) RunUserAction(*site_, [&] { control_->WriteProperties(bag); });
+}
+
+QSize ControlWidget::sizeHint() const { return hint_.isValid() ? hint_.toSize() : QWidget::sizeHint(); }
 
 QSize ControlWidget::minimumSizeHint() const {
   if (!hint_.isValid()) return QWidget::minimumSizeHint();
-  return {std::max(hint_.width() / 2, std::min(hint_.width(), SmallestSide)),
-          std::max(hint_.height() / 2, std::min(hint_.height(), SmallestSide))};
+  const QSize hint = sizeHint();
+  return {std::max(hint.width() / 2, std::min(hint.width(), SmallestSide)),
+          std::max(hint.height() / 2, std::min(hint.height(), SmallestSide))};
+}
+
+void ControlWidget::FontsChanged() {
+  if (!root_) return;
+  const QSizeF growth = TextGrowth(*root_);
+  if (growth == growth_) return;
+  hint_ = QSizeF(hint_.width() * growth.width() / growth_.width(), hint_.height() * growth.height() / growth_.height());
+  growth_ = growth;
+  updateGeometry();
 }
 
 void ControlWidget::NotifyPropertyChanged(std::string_view name) {
@@ -119,7 +140,7 @@ void ControlWidget::ExtenderMoved() {
   const Extender& extender = control_->Extender();
   const QSize size(ToPixels(extender.Width()), ToPixels(extender.Height()));
   const QPoint place(ToPixels(extender.Left()), ToPixels(extender.Top()));
-  if (size != hint_) {
+  if (size != sizeHint()) {
     hint_ = size;
     updateGeometry();
   }
@@ -172,6 +193,9 @@ void ControlWidget::changeEvent(QEvent* event) {
   if (!control_) return;
   switch (event->type()) {
     case QEvent::FontChange:
+      if (root_) ShowFonts(*root_);
+      FontsChanged();
+      [[fallthrough]];
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
       RunUserAction(*site_, [this] { control_->AmbientChanged(); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QSizeF>
 #include <QWidget>
 #include <memory>
 
@@ -38,7 +39,13 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   bool userMode() const { return site_->UserMode(); }
   void setUserMode(bool running);
 
-  /// The size that the control asks for: as designed, or as it has last set its own.
+  /// Takes the control's saved properties from a bag, such as a QSettingsBag or a MemoryBag, or puts them into it. What
+  /// fails comes out of unhandledError. The bag may destroy the widget.
+  void readProperties(PropertyBag& bag);
+  void writeProperties(PropertyBag& bag);
+
+  /// The size that the control asks for: as designed, or as it has last set its own; larger where letters are larger
+  /// than those it is designed for, see TextGrowth. Half of it is the least, as captions shrink before they are cut.
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -75,6 +82,7 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   void NotifyUnhandled(const Error& error);
   void ExtenderMoved();
   void AdoptGeometry();
+  void FontsChanged();
   void FindFocusEntry();
   void RetireNatives();
 
@@ -83,7 +91,8 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   Control* control_ = nullptr;
   RootPeer* root_ = nullptr;
   QPointer<QWidget> window_;
-  QSize hint_;
+  QSizeF hint_;  // in fractions of a pixel, so that growing and shrinking again gives the same size
+  QSizeF growth_{1, 1};
   QPoint place_;
   bool adopting_ = false;
 };

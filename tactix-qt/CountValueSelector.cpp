@@ -5,6 +5,7 @@
 namespace tactix::qt {
 
 CountValueSelector::CountValueSelector(QWidget* parent) : WidgetOf(parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   Relay(&Core::EventSet::CountValueSelected, &CountValueSelector::CountValueSelected);
 }
 

@@ -55,6 +55,16 @@ void QtSite::Detach(Control& control) { widget_.ControlDetached(control); }
 
 Font QtSite::AmbientFont() const { return FromQt(widget_.font()); }
 
+QFont QtSite::HostFont() const {
+  uint set = 0;
+  for (const QWidget* at = &widget_; at; at = at->isWindow() ? nullptr : at->parentWidget()) {
+    set |= at->font().resolveMask();
+  }
+  QFont font = widget_.font();
+  font.setResolveMask(set);
+  return font;
+}
+
 Color QtSite::AmbientForeColor() const { return AmbientColor(widget_, QPalette::WindowText, WindowTextColor); }
 
 Color QtSite::AmbientBackColor() const { return AmbientColor(widget_, QPalette::Window, ButtonFaceColor); }
@@ -135,6 +145,8 @@ void QtSite::FocusLeft() {
 }
 
 void QtSite::ReachChanged() { widget_.FindFocusEntry(); }
+
+void QtSite::FontsChanged() { widget_.FontsChanged(); }
 
 void QtSite::MadeDefault(PushButton& button) {
   const Weak<QtSite> self(this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QPoint>
 #include <functional>
 #include <memory>
@@ -30,6 +31,8 @@ class TACTIX_QT_EXPORT QtSite final : public Site {
   void Attach(Control& control) override;
   void Detach(Control& control) override;
   Font AmbientFont() const override;
+  /// What the host has set of a font, on the widget or around it up to the window, in the font's resolve mask.
+  QFont HostFont() const;
   /// System colours, except where the host has set a palette on the widget or around it.
   Color AmbientForeColor() const override;
   Color AmbientBackColor() const override;
@@ -57,6 +60,8 @@ class TACTIX_QT_EXPORT QtSite final : public Site {
   void FocusLeft();
   // For peers: a user can reach a child widget from now on, or no longer.
   void ReachChanged();
+  // For peers: a child widget has another font.
+  void FontsChanged();
 
  private:
   void ReportArrival();

@@ -5,7 +5,7 @@
 namespace tactix::qt {
 
 SpinCounter::SpinCounter(QWidget* parent) : WidgetOf(parent) {
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   Relay(&Core::EventSet::CounterValueHasChanged, &SpinCounter::CounterValueHasChanged);
 }
 

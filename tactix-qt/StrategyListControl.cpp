@@ -13,7 +13,9 @@ constexpr int NoRow = -2;
 
 }  // namespace
 
-StrategyListControl::StrategyListControl(Maker make, QWidget* parent) : WidgetOf(make, parent) {}
+StrategyListControl::StrategyListControl(Maker make, QWidget* parent) : WidgetOf(make, parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
 
 StrategyListControl::~StrategyListControl() { EndControl(); }
 

@@ -5,6 +5,7 @@
 namespace tactix::qt {
 
 UnitSelectionList::UnitSelectionList(QWidget* parent) : WidgetOf(parent) {
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   Relay(&Core::EventSet::UnitSizeSelected, &UnitSelectionList::UnitSizeSelected);
 }
 

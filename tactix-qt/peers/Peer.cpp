@@ -54,7 +54,12 @@ std::int16_t ButtonsOf(Qt::MouseButtons buttons) {
 
 }  // namespace
 
-Peer::Peer(Widget& widget, QtSite& site, QWidget& native) : widget_(&widget), site_(site), native_(native) {
+Peer::Peer(Widget& widget, QtSite& site, QWidget& native)
+    : widget_(&widget),
+      site_(site),
+      native_(native),
+      designed_(widget.Font()),
+      fontSource_(designed_ == Font() ? FontSource::Container : FontSource::Design) {
   widget.Observe(this);
   native.setObjectName(ToQt(widget.Name()));
   native.setMouseTracking(true);
@@ -78,7 +83,9 @@ void Peer::Changed(Widget&, Aspect aspect) {
   if (!widget_) return;
   // What hears of a focus that has to move may end the control.
   const Weak<QtSite> site(site_);
+  if (aspect == Aspect::Font) fontSource_ = SourceOfFont();
   Update(aspect);
+  if (site && aspect == Aspect::Font) site_.FontsChanged();
   if (site && widget_ && (aspect == Aspect::Visible || aspect == Aspect::Enabled)) site_.ReachChanged();
 }
 
@@ -110,7 +117,7 @@ void Peer::Update(Aspect aspect) {
       break;
     }
     case Aspect::Font:
-      native_.setFont(ToQt(widget.Font()));
+      ShowFont();
       break;
     case Aspect::Order:
       if (widget.Parent()->Children().back() == widget_) {
@@ -133,6 +140,41 @@ void Peer::Update(Aspect aspect) {
       native_.repaint();
       break;
   }
+}
+
+Peer::FontSource Peer::SourceOfFont() const {
+  const Font& font = widget_->Font();
+  if (font == Font() || font == site_.AmbientFont()) return FontSource::Container;
+  return font == designed_ ? FontSource::Design : FontSource::Property;
+}
+
+void Peer::ShowFont() {
+  if (!widget_) return;
+  switch (fontSource_) {
+    case FontSource::Container:
+      native_.setFont(QFont());
+      break;
+    case FontSource::Design: {
+      const QFont designed = ToQt(designed_);
+      const QFont host = site_.HostFont();
+      QFont shown = host.resolve(designed);
+      shown.setResolveMask(host.resolveMask() | designed.resolveMask());
+      native_.setFont(shown);
+      break;
+    }
+    case FontSource::Property:
+      native_.setFont(ToQt(widget_->Font()));
+      break;
+  }
+}
+
+QFont Peer::DesignedFont() const {
+  if (designed_ != Font()) return ToQt(designed_);
+  // Leaves its letters to the container. There is room for them up to this size.
+  constexpr qreal LargestUsual = 12;
+  QFont usual = native_.font();
+  usual.setPointSizeF(LargestUsual);
+  return usual;
 }
 
 void Peer::ShowAccessibleName() {

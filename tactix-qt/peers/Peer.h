@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QEvent>
+#include <QFont>
 #include <QWidget>
 #include <utility>
 
 #include "tactix-qt/Export.h"
+#include "tactix/platform/Font.h"
 #include "tactix/platform/widgets/Widget.h"
 
 class QContextMenuEvent;
@@ -39,6 +41,13 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   /// The mouse has moved over the native widget, perhaps while an open menu has grabbed the mouse.
   void MouseMoved(const QMouseEvent& event);
 
+  /// Shows the child widget's font, or what the host has set instead: of a font that the control is designed with, what
+  /// the host has set of a font on the ControlWidget or around it takes the place. A font that a property has set
+  /// stays.
+  void ShowFont();
+  /// The font for which the child widget's room is designed.
+  QFont DesignedFont() const;
+
   /// Whether Tab stops at the native widget, where a user can reach it.
   virtual bool IsTabStop() const;
 
@@ -72,6 +81,10 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   void ShowAccessibleName();
 
  private:
+  /// Whose font the child widget has. One that equals the container's when it is set, as a saved one does by default,
+  /// is the container's.
+  enum class FontSource { Container, Design, Property };
+  FontSource SourceOfFont() const;
   bool KeyPressed(QKeyEvent& event);
   void MousePressed(const QMouseEvent& event);
   void MenuKeyPressed();
@@ -79,6 +92,8 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   Widget* widget_;
   QtSite& site_;
   QWidget& native_;
+  Font designed_;
+  FontSource fontSource_;
 };
 
 /// A native widget of class NativeBase that is the peer of a child widget of class W.

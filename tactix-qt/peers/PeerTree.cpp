@@ -92,6 +92,12 @@ void ReleasePeers(QWidget& native) {
   }
 }
 
+void ShowFonts(QWidget& native) {
+  for (QWidget* child : native.findChildren<QWidget*>()) {
+    if (auto* peer = dynamic_cast<Peer*>(child)) peer->ShowFont();
+  }
+}
+
 QWidget& FocusEntry(const Widget& control, QWidget& native) {
   if (native.focusPolicy() != Qt::NoFocus) return native;
   std::vector<QWidget*> natives;

@@ -22,6 +22,9 @@ TACTIX_QT_EXPORT void OrderTabs(const Widget& widget, QWidget& native);
 /// Detaches `native` and all native widgets inside it from their child widgets.
 TACTIX_QT_EXPORT void ReleasePeers(QWidget& native);
 
+/// Shows the fonts of all child widgets inside `native` anew: the host's font is another one.
+TACTIX_QT_EXPORT void ShowFonts(QWidget& native);
+
 /// Where the focus goes when a control gets it as a whole: its own native widget if it maps keys, else that of its
 /// first child, as one reads, at which Tab would stop; its own again where there is none. Whether the control itself is
 /// shown and enabled does not matter.

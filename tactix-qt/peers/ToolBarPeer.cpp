@@ -277,7 +277,23 @@ void ToolBarPeer::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
 }
 
+bool ToolBarPeer::focusNextPrevChild(bool next) {
+  QWidget* const focused = window()->focusWidget();
+  if (!focused || !isAncestorOf(focused)) return QToolBar::focusNextPrevChild(next);
+  // On from the bar and not from its button: the host's tab order knows the bar only.
+  const QPointer<QWidget> before(focused);
+  const QPointer<ToolBarPeer> self(this);
+  leaving_ = true;
+  setFocus(Qt::OtherFocusReason);
+  if (!self) return true;
+  leaving_ = false;
+  if (QToolBar::focusNextPrevChild(next)) return true;
+  if (before) before->setFocus(Qt::OtherFocusReason);
+  return false;
+}
+
 void ToolBarPeer::focusInEvent(QFocusEvent* event) {
+  if (leaving_) return;
   const std::vector<QToolButton*> stops = Stops();
   if (stops.empty()) return;
   const auto last = std::find(stops.begin(), stops.end(), lastFocused_);

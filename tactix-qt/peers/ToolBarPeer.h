@@ -36,6 +36,7 @@ class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> 
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -59,6 +60,7 @@ class TACTIX_QT_EXPORT ToolBarPeer final : public NativePeer<QToolBar, ToolBar> 
   QToolButton* more_;
   QPointer<QToolButton> lastFocused_;
   bool fitting_ = false;
+  bool leaving_ = false;
 };
 
 }  // namespace tactix::qt

@@ -16,11 +16,9 @@ namespace {
 
 using Status = Coded<ButtonStatusPossibilities>;
 
-// Twips. In a row the captions stand below the pictures, in a column beside them, so it is thicker.
+// Twips.
 constexpr float DesignWidth = 14400;
 constexpr float DesignHeight = 900;
-constexpr float RowThickness = 900;
-constexpr float ColumnThickness = 1500;
 
 constexpr auto Bottom = static_cast<std::int32_t>(DecisionBARAlignment::DBAlignBottom);
 

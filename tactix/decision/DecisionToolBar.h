@@ -45,6 +45,10 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
  public:
   ~DecisionToolBarControl() override;
 
+  /// How thick the strip is at most, in twips. In a row the captions stand below the pictures, in a column beside them.
+  static constexpr float RowThickness = 900;
+  static constexpr float ColumnThickness = 1500;
+
   /// The docking of the toolbar, bottom by default; any number is kept, and one that is no edge puts the toolbar at the
   /// top. Saved as bottom whatever it is, deliberately.
   Coded<DecisionBARAlignment> Alignment() const;
