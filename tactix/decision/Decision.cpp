@@ -317,7 +317,7 @@ void Decision::CheckThePrompt(bool on) {
 void Decision::PlayButtonMoved(const DecisionPlay& play, const MouseState& mouse) {
   if (!promptState_) return;
   const std::int16_t left = Variant((Children.*play.button).Left()).ToInteger();
-  SetDescriptionBoxState(static_cast<std::int16_t>(play.play.code), mouse.shift, left, play.play.name);
+  SetDescriptionBoxState(static_cast<std::int16_t>(play.code), mouse.shift, left, play.name);
 }
 
 void Decision::SetDescriptionBoxState(std::int16_t /*buttonNumber*/, std::int16_t shiftKeys, std::int16_t leftPosition,

@@ -6,8 +6,7 @@
 namespace tactix {
 
 /// A play's button and event in a decision box.
-struct DecisionPlay {
-  const Play& play;
+struct DecisionPlay : Play {
   PushButton Decision::ChildWidgets::*button;
   Event<> Decision::EventSet::*event;
 };

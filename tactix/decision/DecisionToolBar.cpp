@@ -216,7 +216,7 @@ void DecisionToolBarControl::Decode(const BlockReader& block) {
 
 void DecisionToolBarControl::ButtonWasClicked(const ToolButton& button) {
   for (const ToolBarPlay& play : ToolBarPlays) {
-    if (button.Key() == play.play.name) return (Events.*play.event).Raise();
+    if (button.Key() == play.name) return (Events.*play.event).Raise();
   }
   if (button.Key() == AdviceKey) return FlashTheAdvisedButton();
   if (button.Key() == StatisticsKey) return Events.StatsButtonWasPressed.Raise();

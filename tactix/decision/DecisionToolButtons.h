@@ -52,8 +52,7 @@ inline constexpr std::string_view DecisionPictures[] = {"hit",        "stand",  
                                                         "tens-ratio", "dealer-weak", "dealer-strong", "statistics"};
 
 /// A play's event on a toolbar. The key of its button is the play's name.
-struct ToolBarPlay {
-  const Play& play;
+struct ToolBarPlay : Play {
   Event<> DecisionToolBarControl::EventSet::*event;
 };
 inline constexpr ToolBarPlay ToolBarPlays[] = {

@@ -9,9 +9,8 @@ namespace tactix {
 
 namespace {
 
-struct Line {
-  const Play& play;
-  std::string_view name;
+struct Line : Play {
+  std::string_view label;
   HitStandLegend::Option HitStandLegend::ChildWidgets::*option;
   Event<> HitStandLegend::EventSet::*event;
 };
@@ -57,10 +56,9 @@ HitStandLegend::HitStandLegend(Site& site) : Control(site) {
     Option& option = Children.*line.option;
     Event<>& event = Events.*line.event;
     float left = Margin;
-    for (const auto& [label, caption, width] :
-         {std::tuple{&option[0], std::string{line.play.letter} + " -", LetterWidth},
-          {&option[1], std::string(line.play.name), WordWidth}}) {
-      panel.Add(*label, line.name);
+    for (const auto& [label, caption, width] : {std::tuple{&option[0], std::string{line.letter} + " -", LetterWidth},
+                                                {&option[1], std::string(line.name), WordWidth}}) {
+      panel.Add(*label, line.label);
       label->Caption(caption);
       label->Font({"Comic Sans MS", SizeOfFont});
       label->Place(left, top, width, LineHeight);

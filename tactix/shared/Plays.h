@@ -47,12 +47,11 @@ constexpr const Play* FindPlay(char letter) {
   return nullptr;
 }
 
-/// The row for a play in a table whose rows each refer to their play by a member `play`. Null for a null play, and
-/// where no row is for it.
+/// The row about a play in a table of one row a play, each of which is a Play; null without a play.
 template <class Rows>
 constexpr auto RowOf(const Rows& rows, const Play* play) -> decltype(&rows[0]) {
   for (const auto& row : rows) {
-    if (&row.play == play) return &row;
+    if (play && row.code == play->code) return &row;
   }
   return nullptr;
 }

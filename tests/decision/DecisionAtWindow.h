@@ -41,7 +41,7 @@ class DecisionAtWindow : public testing::Test {
   static std::string EventOf(const DecisionPlay& play) {
     constexpr const char* Names[] = {"PlayerHits#9", "PlayerStands#11", "PlayerSplits#10", "PlayerDoublesDown#8",
                                      "PlayerSurrenders#12"};
-    return Names[play.code - 1];
+    return Names[static_cast<int>(play.code) - 1];
   }
 
   /// Opens the menu of one of the three buttons and does something there.

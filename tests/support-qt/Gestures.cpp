@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTest>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -59,14 +58,20 @@ QToolButton& MoreButtonOf(const QToolBar& bar) {
   return *bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
 }
 
-/// Does something in the menu at a toolbar's end once it is open: a press that opens it comes back when it has closed.
-void InMenuAtTheEnd(const QToolBar& bar, const std::function<void(QMenu&)>& action) {
-  QToolButton& more = MoreButtonOf(bar);
-  QTimer::singleShot(0, &more, [menu = QPointer<QMenu>(more.menu()), action] {
+/// Does something in the menu at a toolbar's end while it is open: a press that opens it comes back when it has closed.
+void InMenuAtTheEnd(const QToolBar& bar, const std::function<void()>& press,
+                    const std::function<void(QMenu&)>& action) {
+  QMenu* const menu = MoreButtonOf(bar).menu();
+  if (!menu) return;
+  const auto act = [menu = QPointer<QMenu>(menu), action] {
     if (!menu || !menu->isVisible()) return;
     action(*menu);
     if (menu && menu->isVisible()) LeaveMenu(*menu);
-  });
+  };
+  QObject untilItIsBack;
+  QObject::connect(menu, &QMenu::aboutToShow, &untilItIsBack,
+                   [&untilItIsBack, act] { QMetaObject::invokeMethod(&untilItIsBack, act, Qt::QueuedConnection); });
+  press();
 }
 
 }  // namespace
@@ -164,28 +169,31 @@ void ClickOnBar(QToolBar& bar, QAction& action) {
   const QToolButton& more = MoreButtonOf(bar);
   const auto place = action.isVisible() ? ReachablePlace(more) : std::nullopt;
   if (!place || !more.isEnabled()) return;
-  InMenuAtTheEnd(bar, [&action](QMenu& menu) {
-    const QPoint item = menu.actionGeometry(&action).center();
-    MoveTo(menu, item);
-    ClickAt(menu, item);
-  });
-  ClickAt(*bar.window(), *place);
+  InMenuAtTheEnd(
+      bar, [&bar, &place] { ClickAt(*bar.window(), *place); },
+      [&action](QMenu& menu) {
+        const QPoint item = menu.actionGeometry(&action).center();
+        MoveTo(menu, item);
+        ClickAt(menu, item);
+      });
 }
 
 void PressOnBar(QToolBar& bar, QAction& action) {
   QWidget* native = bar.widgetForAction(&action);
   if (!action.isVisible() || !native) return;
   bar.layout()->activate();
-  if (!native->isVisible()) {
-    native = &MoreButtonOf(bar);
-    InMenuAtTheEnd(bar, [&action](QMenu& menu) {
-      for (int i = 0; i < menu.actions().size() && menu.activeAction() != &action; ++i) PressIn(menu, Qt::Key_Down);
-      if (menu.activeAction() == &action) PressIn(menu, Qt::Key_Return);
-    });
-  }
+  const bool isInMenu = !native->isVisible();
+  if (isInMenu) native = &MoreButtonOf(bar);
   if (!native->isVisible() || !native->isEnabled()) return;
-  native->setFocus(Qt::TabFocusReason);
-  PressKey(*bar.window(), Qt::Key_Space);
+  const auto press = [&bar, native] {
+    native->setFocus(Qt::TabFocusReason);
+    PressKey(*bar.window(), Qt::Key_Space);
+  };
+  if (!isInMenu) return press();
+  InMenuAtTheEnd(bar, press, [&action](QMenu& menu) {
+    for (int i = 0; i < menu.actions().size() && menu.activeAction() != &action; ++i) PressIn(menu, Qt::Key_Down);
+    if (menu.activeAction() == &action) PressIn(menu, Qt::Key_Return);
+  });
 }
 
 QMenu* OpenMenuOf(const Menu& menu) {

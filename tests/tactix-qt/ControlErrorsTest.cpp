@@ -10,6 +10,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -60,6 +61,8 @@ struct SweepRow {
   std::string name;
   ControlClass tested;
   HooksAre hooks;
+
+  friend std::ostream& operator<<(std::ostream& out, const SweepRow& row) { return out << row.name; }
 };
 
 std::vector<SweepRow> SweepRows() {

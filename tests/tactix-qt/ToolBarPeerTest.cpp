@@ -7,7 +7,6 @@
 #include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QToolTip>
 #include <string>
 #include <tuple>
@@ -193,10 +192,12 @@ TEST_F(QtToolBarTest, EveryButtonOfANarrowBarCanBeClicked) {
 TEST_F(QtToolBarTest, TheMenuAtTheEndClosesWithTheBar) {
   window_.Resize(250, 60);
   bool wasOpen = false;
-  QTimer::singleShot(0, &window_.More(), [&] {
+  const auto hide = [&] {
     wasOpen = window_.More().menu()->isVisible();
     window_.Itself()->hide();
-  });
+  };
+  QObject::connect(window_.More().menu(), &QMenu::aboutToShow, &window_.More(),
+                   [&] { QMetaObject::invokeMethod(&window_.More(), hide, Qt::QueuedConnection); });
   ClickAt(window_.Window(), ReachablePlace(window_.More()).value());
   Settle();
   EXPECT_TRUE(wasOpen);
