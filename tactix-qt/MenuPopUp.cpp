@@ -7,6 +7,7 @@
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/QtSite.h"
 #include "tactix-qt/WaitLoop.h"
+#include "tactix-qt/peers/AccessibleNames.h"
 #include "tactix-qt/peers/Peer.h"
 
 namespace tactix::qt {
@@ -30,6 +31,8 @@ MenuPopUp::MenuPopUp(Menu& menu, QtSite& site) : menu_(menu), site_(site), outer
   Fill(native_, menu);
   connect(&native_, &QMenu::triggered, this, [this](const QAction* action) {
     if (MenuEntry* entry = EntryOf(*action)) chosen_ = Weak<MenuEntry>(entry);
+    // A screen reader chooses an entry without closing the menu.
+    native_.hide();
   });
 }
 
@@ -67,6 +70,7 @@ void MenuPopUp::Run(const QPoint& global, ControlWidget& within) {
   window_ = within.window();
   menu->Opened(*site_.Get());
   native_.setPalette(within.palette());
+  if (native_.title().isEmpty()) native_.setAccessibleName(SpokenNameOf(within));
   if (native_.isEmpty()) return menu->Close();
   // Without a transient parent some window systems refuse a pop-up.
   native_.winId();
@@ -82,6 +86,13 @@ void MenuPopUp::Dismiss() {
   chosen_ = {};
   native_.hide();
   if (menu_) menu_->Close();
+}
+
+QMenu* MenuPopUp::OpenOn(const QtSite& site) {
+  for (MenuPopUp* open = innermost; open; open = open->outer_) {
+    if (open->site_.Get() == &site && open->native_.isVisible()) return &open->native_;
+  }
+  return nullptr;
 }
 
 void MenuPopUp::SiteEnds(const QtSite& site) {

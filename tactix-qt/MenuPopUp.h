@@ -25,6 +25,9 @@ class TACTIX_QT_EXPORT MenuPopUp final : public QObject {
   /// Closes what is popped up on the site.
   static void SiteEnds(const QtSite& site);
 
+  /// What is popped up on the site, or null.
+  static QMenu* OpenOn(const QtSite& site);
+
   /// The menu or entry that a QMenu of this class or one of its actions stands for.
   static Menu* MenuOf(const QMenu& native);
   static MenuEntry* EntryOf(const QAction& action);

@@ -1,8 +1,10 @@
 #include "tactix-qt/peers/ContainerPeer.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 
 #include "tactix-qt/Convert.h"
+#include "tactix-qt/peers/LabelPeer.h"
 
 namespace tactix::qt {
 
@@ -16,6 +18,11 @@ void ContainerPeer::Update(Aspect aspect) {
   } else {
     Peer::Update(aspect);
   }
+}
+
+void ContainerPeer::keyPressEvent(QKeyEvent* event) {
+  if (!Model()) return event->ignore();
+  LabelPeer::MoveFocus(*event, *Model(), nullptr);
 }
 
 void ContainerPeer::paintEvent(QPaintEvent*) {

@@ -15,6 +15,7 @@ class TACTIX_QT_EXPORT ContainerPeer : public NativePeer<QWidget, Extender> {
  protected:
   void Update(Aspect aspect) override;
   bool TakesClickFocus() const override { return focusPolicy() != Qt::NoFocus; }
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };
 

@@ -1,5 +1,6 @@
 #include "tactix-qt/peers/FramePeer.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QStyle>
 
@@ -20,6 +21,10 @@ FramePeer::FramePeer(Widget& widget, QtSite& site, QWidget* parent) : NativePeer
 
 void FramePeer::Update(Aspect aspect) {
   if (aspect == Aspect::Colors || aspect == Aspect::Caption) update();
+  if (aspect == Aspect::Caption) {
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+  }
   Peer::Update(aspect);
 }
 

@@ -1,12 +1,21 @@
 #include "tactix-qt/peers/LabelPeer.h"
 
+#include <QAccessible>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
+#include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/Retirement.h"
+#include "tactix-qt/peers/AccessibleNames.h"
+#include "tactix-qt/peers/Keys.h"
+#include "tactix/platform/widgets/Extender.h"
 
 namespace tactix::qt {
 
@@ -34,6 +43,30 @@ Qt::Alignment AlignmentOf(TextAlignment alignment) {
       return Qt::AlignRight;
   }
   return Qt::AlignLeft;
+}
+
+const Label* AsClickable(const Widget& widget) {
+  if (widget.Kind() != WidgetKind::Label) return nullptr;
+  const auto& label = static_cast<const Label&>(widget);
+  return label.TakesClicks() ? &label : nullptr;
+}
+
+/// The label beside this one in the order of their parent if both stand for one element.
+const Label* Companion(const Label& label, std::ptrdiff_t step) {
+  if (!label.TakesClicks()) return nullptr;
+  const auto siblings = label.Parent()->Children();
+  const auto place = std::find(siblings.begin(), siblings.end(), &label) - siblings.begin() + step;
+  if (place < 0 || place >= static_cast<std::ptrdiff_t>(siblings.size())) return nullptr;
+  const Label* const other = AsClickable(*siblings[static_cast<std::size_t>(place)]);
+  return other && other->Name() == label.Name() ? other : nullptr;
+}
+
+void ListElements(const Widget& widget, std::vector<LabelPeer*>& elements) {
+  for (const Widget* child : widget.Children()) {
+    auto* const peer = AsClickable(*child) ? dynamic_cast<LabelPeer*>(Peer::Of(*child)) : nullptr;
+    if (peer && !peer->IsSign() && child->Usable()) elements.push_back(peer);
+    ListElements(*child, elements);
+  }
 }
 
 }  // namespace
@@ -81,10 +114,60 @@ void LabelPeer::Click() {
   if (Model()) Model()->Click();
 }
 
+const Label* LabelPeer::Sign() const { return Model() ? Companion(*Model(), -1) : nullptr; }
+
+bool LabelPeer::IsSign() const { return Model() && Companion(*Model(), 1); }
+
+void LabelPeer::MoveFocus(QKeyEvent& event, const Widget& control, const LabelPeer* from) {
+  std::vector<LabelPeer*> elements;
+  ListElements(control, elements);
+  std::stable_sort(elements.begin(), elements.end(), [](const LabelPeer* a, const LabelPeer* b) {
+    return std::pair(a->y(), a->x()) < std::pair(b->y(), b->x());
+  });
+  if (elements.empty() || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return event.ignore();
+  const auto here = std::find(elements.begin(), elements.end(), from);
+  auto to = here;
+  switch (event.key()) {
+    case Qt::Key_Home:
+      to = elements.begin();
+      break;
+    case Qt::Key_End:
+      to = elements.end() - 1;
+      break;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+      to = here == elements.end() ? elements.begin() : std::min(here + 1, elements.end() - 1);
+      break;
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+      to = here == elements.begin() ? here : (here == elements.end() ? elements.end() : here) - 1;
+      break;
+    default:
+      return event.ignore();
+  }
+  event.accept();
+  (*to)->setFocus(Qt::TabFocusReason);
+}
+
+void LabelPeer::keyPressEvent(QKeyEvent* event) {
+  if (!IsClickable()) return QLabel::keyPressEvent(event);
+  const bool isSpace = event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier;
+  if (!isSpace && !IsEnter(*event)) return MoveFocus(*event, *Model()->Owner(), this);
+  event->accept();
+  if (!event->isAutoRepeat()) Click();
+}
+
+void LabelPeer::Announce() {
+  if (!Model() || !IsAnnounced(*Model()) || !isVisible() || !IsInSight() || SpokenNameOf(*this).isEmpty()) return;
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
 void LabelPeer::Update(Aspect aspect) {
   switch (aspect) {
     case Aspect::Caption:
       setText(ToQt(Model()->Caption()));
+      Announce();
       break;
     case Aspect::Align:
       setAlignment(AlignmentOf(Model()->Alignment()) | Qt::AlignVCenter);
@@ -127,6 +210,11 @@ void LabelPeer::paintEvent(QPaintEvent*) {
   if (underMouse() && isEnabled() && IsClickable()) fitted.setUnderline(true);
   painter.setFont(fitted);
   style()->drawItemText(&painter, room, TextFlags(), palette(), isEnabled(), text(), foregroundRole());
+  if (!hasFocus()) return;
+  QStyleOptionFocusRect focus;
+  focus.initFrom(this);
+  focus.rect = room;
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
 }  // namespace tactix::qt

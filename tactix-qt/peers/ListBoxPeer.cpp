@@ -11,6 +11,7 @@
 
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/Retirement.h"
+#include "tactix-qt/peers/AccessibleNames.h"
 
 namespace tactix::qt {
 
@@ -105,8 +106,14 @@ void ListBoxPeer::showPopup() {
   // process.
   view()->setTextElideMode(Qt::ElideNone);
   const int scrollBar = count() > maxVisibleItems() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  view()->setAccessibleName(accessibleName().isEmpty() ? SpokenNameOf(*this) : accessibleName());
   view()->setMinimumWidth(view()->sizeHintForColumn(0) + scrollBar + 2 * view()->frameWidth());
   QComboBox::showPopup();
+}
+
+bool ListBoxPeer::IsOpen() const {
+  const auto* const list = findChild<QAbstractItemView*>();
+  return list && list->isVisible();
 }
 
 QString ListBoxPeer::ShownText() const { return currentIndex() < 0 ? placeholderText() : currentText(); }

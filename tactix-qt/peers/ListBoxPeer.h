@@ -20,6 +20,8 @@ class TACTIX_QT_EXPORT ListBoxPeer final : public NativePeer<QComboBox, ListBox>
   void RowsCleared(ListBox& box) override;
 
   void showPopup() override;
+  /// Asks no view into being, unlike view().
+  bool IsOpen() const;
 
   /// What it shows while closed, and where; for tests.
   QString ShownText() const;

@@ -10,7 +10,6 @@
 #include "tactix-qt/QtSite.h"
 #include "tactix-qt/Retirement.h"
 #include "tactix-qt/peers/Keys.h"
-#include "tactix/platform/widgets/Label.h"
 
 namespace tactix::qt {
 
@@ -18,23 +17,6 @@ namespace {
 
 constexpr Aspect CommonAspects[] = {Aspect::Geometry, Aspect::ToolTip, Aspect::Font,
                                     Aspect::Colors,   Aspect::Enabled, Aspect::Visible};
-
-/// The caption as read aloud; empty for a widget that has none.
-QString CaptionOf(const Widget& widget) {
-  switch (widget.Kind()) {
-    case WidgetKind::Label: {
-      const auto& label = static_cast<const Label&>(widget);
-      return ToQt(PlainCaption(label.Heading() + " " + label.Caption())).trimmed();
-    }
-    case WidgetKind::PushButton:
-    case WidgetKind::OptionButton:
-    case WidgetKind::Panel:
-    case WidgetKind::Frame:
-      return ToQt(PlainCaption(static_cast<const Captioned&>(widget).Caption())).trimmed();
-    default:
-      return {};
-  }
-}
 
 std::int16_t ShiftOf(Qt::KeyboardModifiers modifiers) {
   int shift = 0;
@@ -73,7 +55,6 @@ void Peer::Release() {
 }
 
 void Peer::ShowAll() {
-  ShowAccessibleName();
   for (const Aspect aspect : CommonAspects) Update(aspect);
 }
 
@@ -109,13 +90,9 @@ void Peer::Update(Aspect aspect) {
     case Aspect::Enabled:
       native_.setEnabled(widget.Enabled());
       break;
-    case Aspect::ToolTip: {
-      const QString text = ToQt(widget.ToolTipText());
-      native_.setToolTip(text);
-      native_.setAccessibleDescription(text);
-      ShowAccessibleName();
+    case Aspect::ToolTip:
+      native_.setToolTip(ToQt(widget.ToolTipText()));
       break;
-    }
     case Aspect::Font:
       ShowFont();
       break;
@@ -127,8 +104,6 @@ void Peer::Update(Aspect aspect) {
       }
       break;
     case Aspect::Caption:
-      ShowAccessibleName();
-      break;
     case Aspect::Colors:
     case Aspect::Default:
     case Aspect::Value:
@@ -175,14 +150,6 @@ QFont Peer::DesignedFont() const {
   QFont usual = native_.font();
   usual.setPointSizeF(LargestUsual);
   return usual;
-}
-
-void Peer::ShowAccessibleName() {
-  QString name = CaptionOf(*widget_);
-  if (name.isEmpty()) name = native_.toolTip();
-  const Widget* const around = widget_->Parent();
-  if (name.isEmpty() && around && around->Kind() == WidgetKind::Frame) name = CaptionOf(*around);
-  native_.setAccessibleName(name.isEmpty() ? ToQt(widget_->Name()) : name);
 }
 
 QRect Peer::InSight() const {

@@ -76,9 +76,6 @@ class TACTIX_QT_EXPORT Peer : public WidgetObserver {
   QtSite& ItsSite() const { return site_; }
   /// The part of the native widget that lies inside its parent; all of it where none does.
   QRect InSight() const;
-  /// What a screen reader says: the caption, or else the tool tip, or else the caption of the box around it, or else
-  /// the name.
-  void ShowAccessibleName();
 
  private:
   /// Whose font the child widget has. One that equals the container's when it is set, as a saved one does by default,

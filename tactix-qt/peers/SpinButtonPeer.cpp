@@ -1,38 +1,75 @@
 #include "tactix-qt/peers/SpinButtonPeer.h"
 
-#include <QAccessibleWidget>
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QWheelEvent>
+#include <cstdint>
 #include <cstdlib>
+#include <exception>
 
 #include "tactix-qt/Convert.h"
 #include "tactix-qt/Retirement.h"
+#include "tactix/counting/SpinCounter.h"
+#include "tactix/platform/UserAction.h"
 
 namespace tactix::qt {
 
 namespace {
 
-QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-  auto* const peer = dynamic_cast<SpinButtonPeer*>(object);
-  return peer ? new QAccessibleWidget(peer, QAccessible::SpinBox) : nullptr;
-}
+/// The lowest number that stepping down reaches where negative numbers are allowed.
+constexpr int LowestNegative = -999;
 
 }  // namespace
 
 SpinButtonPeer::SpinButtonPeer(SpinButton& spin, QtSite& site, QWidget* parent)
     : NativePeer(spin, site, parent),
       up_(
-          Qt::UpArrow, [this] { Spin(&SpinButton::SpinUp); }, this),
+          Qt::UpArrow, [this] { StepUp(); }, this),
       down_(
-          Qt::DownArrow, [this] { Spin(&SpinButton::SpinDown); }, this) {
-  static const bool isAccessible = (QAccessible::installFactory(MakeAccessible), true);
-  static_cast<void>(isAccessible);
+          Qt::DownArrow, [this] { StepDown(); }, this) {
   // A mouse press does not give it the focus: the spin does.
   setFocusPolicy(Qt::TabFocus);
-  up_.setAccessibleName(QStringLiteral("Up"));
-  down_.setAccessibleName(QStringLiteral("Down"));
   up_.setObjectName(QStringLiteral("UpButton"));
   down_.setObjectName(QStringLiteral("DownButton"));
+  if (SpinCounter* counter = Counter()) {
+    numberChanged_ = counter->Events.CounterValueHasChanged.Connect([this](const std::int16_t& number) {
+      QAccessibleValueChangeEvent changed(this, int{number});
+      QAccessible::updateAccessibility(&changed);
+    });
+  }
+}
+
+SpinCounter* SpinButtonPeer::Counter() const {
+  const Extender* const owner = Model() ? Model()->Owner() : nullptr;
+  return owner ? dynamic_cast<SpinCounter*>(&owner->ItsControl()) : nullptr;
+}
+
+QVariant SpinButtonPeer::Number() const {
+  SpinCounter* const counter = Counter();
+  if (!counter) return {};
+  try {
+    return int{counter->CounterValue()};
+  } catch (const std::exception&) {
+    // The reader has only asked: nobody is told that the host supplies no number.
+    return {};
+  }
+}
+
+void SpinButtonPeer::Number(int number) {
+  SpinCounter* const counter = Counter();
+  if (!counter || !Model()->Usable() || number < LowestNumber().toInt() || number > HighestNumber().toInt()) return;
+  const HandlerScope scope;
+  RunUserAction(counter->ItsSite(), [&] { counter->CounterValue(static_cast<std::int16_t>(number)); });
+}
+
+QVariant SpinButtonPeer::LowestNumber() const {
+  const SpinCounter* const counter = Counter();
+  return counter ? QVariant(counter->AllowNegNumbers() ? LowestNegative : 0) : QVariant();
+}
+
+QVariant SpinButtonPeer::HighestNumber() const {
+  const SpinCounter* const counter = Counter();
+  return counter ? QVariant(int{counter->MaximumLimit()}) : QVariant();
 }
 
 void SpinButtonPeer::Spin(Direction direction) {

@@ -1,10 +1,16 @@
 #pragma once
 
+#include <QVariant>
 #include <QWidget>
 
 #include "tactix-qt/peers/ArrowButton.h"
 #include "tactix-qt/peers/Peer.h"
+#include "tactix/platform/Event.h"
 #include "tactix/platform/widgets/SpinButton.h"
+
+namespace tactix {
+class SpinCounter;
+}
 
 namespace tactix::qt {
 
@@ -13,6 +19,17 @@ namespace tactix::qt {
 class TACTIX_QT_EXPORT SpinButtonPeer final : public NativePeer<QWidget, SpinButton> {
  public:
   SpinButtonPeer(SpinButton& spin, QtSite& site, QWidget* parent);
+
+  void StepUp() { Spin(&SpinButton::SpinUp); }
+  void StepDown() { Spin(&SpinButton::SpinDown); }
+
+  // For screen readers: the number of the counter to which it belongs. Where there is none, or the host supplies no
+  // number, it reads as nothing.
+  bool StepsANumber() const { return Counter() != nullptr; }
+  QVariant Number() const;
+  void Number(int number);
+  QVariant LowestNumber() const;
+  QVariant HighestNumber() const;
 
   /// For tests.
   ArrowButton& UpButton() { return up_; }
@@ -29,11 +46,13 @@ class TACTIX_QT_EXPORT SpinButtonPeer final : public NativePeer<QWidget, SpinBut
   using Direction = void (SpinButton::*)();
 
   void Spin(Direction direction);
+  SpinCounter* Counter() const;
   void Arrange();
 
   ArrowButton up_;
   ArrowButton down_;
   int wheel_ = 0;
+  ScopedConnection numberChanged_;
 };
 
 }  // namespace tactix::qt

@@ -228,7 +228,7 @@ INSTANTIATE_TEST_SUITE_P(
                 },
                 [](Children& all) -> Widget& { return all.FirstButton; }, "Take a card", "Take a card"},
         NameRow{"Label", [](Children&) {}, [](Children& all) -> Widget& { return all.StatusLabel; }, "Ready", ""},
-        NameRow{"List", [](Children&) {}, [](Children& all) -> Widget& { return all.RowList; }, "RowList", ""},
+        NameRow{"List", [](Children&) {}, [](Children& all) -> Widget& { return all.RowList; }, "List", ""},
         NameRow{"ListWithToolTip", [](Children& all) { all.RowList.ToolTipText("Fruit"); },
                 [](Children& all) -> Widget& { return all.RowList; }, "Fruit", "Fruit"}),
     RowName());
