@@ -33,7 +33,9 @@ endif()
 option(TACTIX_DESIGNER "Build the Qt Designer plugin" ${designerDefault})
 option(TACTIX_TRAINER "Build the blackjack trainer (without Qt: its engine only)" ${PROJECT_IS_TOP_LEVEL})
 option(TACTIX_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
-set(TACTIX_TEST_ROOMS "platform;shared;strategy;decision;scoring;counting;companion;callouts"
+file(STRINGS ${PROJECT_SOURCE_DIR}/cmake/Rooms.txt coreRooms REGEX "^tactix/")
+list(TRANSFORM coreRooms REPLACE "^tactix/([a-z]+):.*" "\\1")
+set(TACTIX_TEST_ROOMS "${coreRooms};callouts"
     CACHE STRING "Rooms of the core whose own tests are built; on Qt all are tested")
 option(TACTIX_TEST_SHARDS "Have many tests share a process instead of giving each its own" OFF)
 option(TACTIX_BENCH "Build the benchmarks" OFF)

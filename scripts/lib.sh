@@ -5,9 +5,16 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
+roomsFile=cmake/Rooms.txt
+
 Fail() {
   echo "${0##*/}: $*" >&2
   exit 1
+}
+
+# Rooms: prints the names of all rooms.
+Rooms() {
+  sed -nE 's/^([^#:]+):.*/\1/p' "$root/$roomsFile"
 }
 
 # NeedPackages <package>...: installs what is missing. A machine that has it all needs no network and no root.

@@ -1,17 +1,12 @@
 #pragma once
 
-#include <QWidget>
-#include <memory>
-#include <span>
+#include <vector>
+
+#include "tools/ControlScenes.h"
 
 namespace tactix::tools {
 
-/// A picture of the documentation: its file's name and what is on it.
-struct Scene {
-  const char* name;
-  std::unique_ptr<QWidget> (*make)();
-};
-
-std::span<const Scene> Scenes();
+/// The pictures of the documentation: the controls, open lists, the trainer.
+std::vector<Scene> Scenes();
 
 }  // namespace tactix::tools

@@ -8,11 +8,9 @@ void PrintTo(const CatalogueEntry& entry, std::ostream* out) { *out << entry.nam
 
 const std::vector<CatalogueEntry>& Catalogue() {
   static const std::vector<CatalogueEntry> entries = {
-      StrategyListEntry(),        StrategyListLITEEntry(),     BetStrategyListEntry(),   CountStrategyListEntry(),
-      StrategyMarquixEntry(),     AdviceButtonEntry(),         DecisionEntry(),          DecisionBAREntry(),
-      DecisionBAR2Entry(),        HitStandLegendEntry(),       DecisionRegisterEntry(),  DecisionRegiLOGEntry(),
-      CardCountDisplayBoxEntry(), DualCardCountDisplayEntry(), StrategyDataPanelEntry(), SpinCounterEntry(),
-      CountValueSelectorEntry(),  ClumpCardListEntry(),        UnitSelectionListEntry(),
+#define CONTROL(name) name##Entry(),
+#include "tests/support/Controls.inc"
+#undef CONTROL
   };
   return entries;
 }

@@ -102,29 +102,13 @@ struct CatalogueEntry {
 /// Named by its name in reports.
 void PrintTo(const CatalogueEntry& entry, std::ostream* out);
 
-/// All controls. A new one gets an entry function in the file of its room, and a line in Catalogue.cpp.
+/// All controls. A new one gets an entry function, and a line in Controls.inc.
 const std::vector<CatalogueEntry>& Catalogue();
 
 // The entry functions.
-CatalogueEntry StrategyListEntry();
-CatalogueEntry StrategyListLITEEntry();
-CatalogueEntry BetStrategyListEntry();
-CatalogueEntry CountStrategyListEntry();
-CatalogueEntry StrategyMarquixEntry();
-CatalogueEntry AdviceButtonEntry();
-CatalogueEntry DecisionEntry();
-CatalogueEntry DecisionBAREntry();
-CatalogueEntry DecisionBAR2Entry();
-CatalogueEntry HitStandLegendEntry();
-CatalogueEntry DecisionRegisterEntry();
-CatalogueEntry DecisionRegiLOGEntry();
-CatalogueEntry CardCountDisplayBoxEntry();
-CatalogueEntry DualCardCountDisplayEntry();
-CatalogueEntry StrategyDataPanelEntry();
-CatalogueEntry SpinCounterEntry();
-CatalogueEntry CountValueSelectorEntry();
-CatalogueEntry ClumpCardListEntry();
-CatalogueEntry UnitSelectionListEntry();
+#define CONTROL(name) CatalogueEntry name##Entry();
+#include "tests/support/Controls.inc"
+#undef CONTROL
 
 // For the entry functions.
 
