@@ -272,7 +272,8 @@ TEST(QtAccessibleNameTest, ALabelBesideAControlNamesIt) {
 
 TEST(QtAccessibleDecisionTest, ExposesItsPromptAndItsPlaysInReadingOrder) {
   ShownControl shown("Decision");
-  const std::string prompt = static_cast<qt::Decision&>(shown.Itself()).control().Children.lblUserControlCaption.Caption();
+  const std::string prompt =
+      static_cast<qt::Decision&>(shown.Itself()).control().Children.lblUserControlCaption.Caption();
   EXPECT_NE(prompt.find("Ann"), std::string::npos);
   EXPECT_EQ(NamesOf(shown.Itself(), QAccessible::AlertMessage), Texts{prompt});
   EXPECT_EQ(NamesOf(shown.Itself(), QAccessible::Grouping), (Texts{"Decision", "Plays", "Advice"}));
