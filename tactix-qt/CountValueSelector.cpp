@@ -6,6 +6,10 @@ namespace tactix::qt {
 
 CountValueSelector::CountValueSelector(QWidget* parent) : WidgetOf(parent) {
   Relay(&Core::EventSet::CountValueSelected, &CountValueSelector::CountValueSelected);
+  control().Events.CountValueSelected.Connect([this](std::int32_t value) {
+    if (value < LowestPointValue || value > HighestPointValue) return;
+    Q_EMIT countValuePicked(static_cast<CardPointValuePossibilities>(value));
+  });
 }
 
 CountValueSelector::~CountValueSelector() { EndControl(); }
@@ -19,5 +23,8 @@ CountValueSelector::CardPointValuePossibilities CountValueSelector::PointValue()
 
 void CountValueSelector::setCardValue(theCardValuePossibilities card) { Call(&Core::CardValue, card); }
 void CountValueSelector::setPointValue(CardPointValuePossibilities value) { Call(&Core::PointValue, value); }
+
+void CountValueSelector::resetCardValue() { Reset("CardValue"); }
+void CountValueSelector::resetPointValue() { Reset("PointValue", ResetBy::Restoring); }
 
 }  // namespace tactix::qt

@@ -78,6 +78,7 @@ void Peer::Changed(Widget&, Aspect aspect) {
   if (!widget_) return;
   // What hears of a focus that has to move may end the control.
   const Weak<QtSite> site(site_);
+  site_.WidgetChanged();
   Update(aspect);
   if (site && widget_ && (aspect == Aspect::Visible || aspect == Aspect::Enabled)) site_.ReachChanged();
 }
