@@ -9,12 +9,14 @@
 namespace tactix::qt {
 
 /// The advice button as a widget, see WidgetOf and tactix::AdviceButton. Numbers beyond 16 bits fail with 6.
+/// Where it blinks, the focus coming to it, like FlashObject, waits for 1.6 seconds, see WidgetOf.
 class TACTIX_QT_EXPORT AdviceButton : public WidgetOf<tactix::AdviceButton> {
   Q_OBJECT
-  Q_PROPERTY(QString Caption READ Caption WRITE setCaption)
-  Q_PROPERTY(bool DEFAULT READ DEFAULT WRITE setDEFAULT)
-  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled STORED false)
-  Q_PROPERTY(int WhichStrategyToUse READ WhichStrategyToUse WRITE setWhichStrategyToUse)
+  Q_PROPERTY(QString Caption READ Caption WRITE setCaption NOTIFY CaptionChanged)
+  Q_PROPERTY(bool DEFAULT READ DEFAULT WRITE setDEFAULT NOTIFY DEFAULTChanged)
+  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled NOTIFY EnabledChanged STORED false)
+  Q_PROPERTY(
+      int WhichStrategyToUse READ WhichStrategyToUse WRITE setWhichStrategyToUse NOTIFY WhichStrategyToUseChanged)
 
  public:
   explicit AdviceButton(QWidget* parent = nullptr);
@@ -56,6 +58,12 @@ class TACTIX_QT_EXPORT AdviceButton : public WidgetOf<tactix::AdviceButton> {
   void AdviceStrategySelected(int adviceStrategy);
   /// The list is open.
   void StrategyListBoxVisibilityChanged(bool strategyListBoxStatus);
+
+  /// A property has another value now, see WidgetOf.
+  void CaptionChanged(const QString& value);
+  void DEFAULTChanged(bool value);
+  void EnabledChanged(bool value);
+  void WhichStrategyToUseChanged(int value);
 };
 
 }  // namespace tactix::qt

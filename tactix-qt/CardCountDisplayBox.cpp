@@ -20,4 +20,6 @@ void CardCountDisplayBox::setForeColor(const QColor& color) { Call(&Core::ForeCo
 void CardCountDisplayBox::CountValue(int value) { Call(&Core::CountValue, value); }
 void CardCountDisplayBox::ShadowBoxStatus(int status) { Call(&Core::ShadowBoxStatus, status); }
 
+void CardCountDisplayBox::resetCountBoxType() { Reset("CountBoxType"); }
+
 }  // namespace tactix::qt

@@ -12,9 +12,10 @@ namespace tactix::qt {
 /// The count box as a widget, see WidgetOf and tactix::CardCountDisplayBox. A colour that is not valid is the system's.
 class TACTIX_QT_EXPORT CardCountDisplayBox : public WidgetOf<tactix::CardCountDisplayBox> {
   Q_OBJECT
-  Q_PROPERTY(TypeOfCountBox CountBoxType READ CountBoxType WRITE setCountBoxType)
-  Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor STORED false)
-  Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor STORED false)
+  Q_PROPERTY(TypeOfCountBox CountBoxType READ CountBoxType WRITE setCountBoxType RESET resetCountBoxType NOTIFY
+                 CountBoxTypeChanged)
+  Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor NOTIFY BackColorChanged STORED false)
+  Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor NOTIFY ForeColorChanged STORED false)
 
  public:
   /// The rows of tactix::TypeOfCountBox. Other numbers are kept, too.
@@ -48,6 +49,7 @@ class TACTIX_QT_EXPORT CardCountDisplayBox : public WidgetOf<tactix::CardCountDi
   void setCountBoxType(TypeOfCountBox type);
   void setBackColor(const QColor& color);
   void setForeColor(const QColor& color);
+  void resetCountBoxType();
   void CountBoxType(TypeOfCountBox type) { setCountBoxType(type); }
   void BackColor(const QColor& color) { setBackColor(color); }
   void ForeColor(const QColor& color) { setForeColor(color); }
@@ -55,6 +57,12 @@ class TACTIX_QT_EXPORT CardCountDisplayBox : public WidgetOf<tactix::CardCountDi
   void CountValue(int value);
   /// The colour behind the value, 0x00BBGGRR, from the next repaint on; white for 0.
   void ShadowBoxStatus(int status);
+
+ Q_SIGNALS:
+  /// A property has another value now, see WidgetOf.
+  void CountBoxTypeChanged(TypeOfCountBox value);
+  void BackColorChanged(const QColor& value);
+  void ForeColorChanged(const QColor& value);
 };
 
 }  // namespace tactix::qt

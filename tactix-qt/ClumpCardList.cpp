@@ -21,4 +21,7 @@ ClumpCardList::CardClumpValuePossibilities ClumpCardList::ClumpValue() const {
 void ClumpCardList::setCardValue(theClumpCardValuePossibilities card) { Call(&Core::CardValue, card); }
 void ClumpCardList::setClumpValue(CardClumpValuePossibilities value) { Call(&Core::ClumpValue, value); }
 
+void ClumpCardList::resetCardValue() { Reset("CardValue"); }
+void ClumpCardList::resetClumpValue() { Reset("ClumpValue", ResetBy::Restoring); }
+
 }  // namespace tactix::qt

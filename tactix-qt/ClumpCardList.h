@@ -11,8 +11,10 @@ namespace tactix::qt {
 /// The clump value list of a card as a widget, see WidgetOf and tactix::ClumpCardList.
 class TACTIX_QT_EXPORT ClumpCardList : public WidgetOf<tactix::ClumpCardList> {
   Q_OBJECT
-  Q_PROPERTY(theClumpCardValuePossibilities CardValue READ CardValue WRITE setCardValue)
-  Q_PROPERTY(CardClumpValuePossibilities ClumpValue READ ClumpValue WRITE setClumpValue STORED false DESIGNABLE false)
+  Q_PROPERTY(theClumpCardValuePossibilities CardValue READ CardValue WRITE setCardValue RESET resetCardValue NOTIFY
+                 CardValueChanged)
+  Q_PROPERTY(CardClumpValuePossibilities ClumpValue READ ClumpValue WRITE setClumpValue RESET resetClumpValue NOTIFY
+                 ClumpValueChanged STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::theClumpCardValuePossibilities. A saved control may hold other numbers.
@@ -46,12 +48,18 @@ class TACTIX_QT_EXPORT ClumpCardList : public WidgetOf<tactix::ClumpCardList> {
  public Q_SLOTS:
   void setCardValue(theClumpCardValuePossibilities card);
   void setClumpValue(CardClumpValuePossibilities value);
+  void resetCardValue();
+  void resetClumpValue();
   void CardValue(theClumpCardValuePossibilities card) { setCardValue(card); }
   void ClumpValue(CardClumpValuePossibilities value) { setClumpValue(value); }
 
  Q_SIGNALS:
   /// Carries the value of the row that was picked.
   void ClumpValueSelected(int newClumpValue);
+
+  /// A property has another value now, see WidgetOf.
+  void CardValueChanged(theClumpCardValuePossibilities value);
+  void ClumpValueChanged(CardClumpValuePossibilities value);
 };
 
 }  // namespace tactix::qt

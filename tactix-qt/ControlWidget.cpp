@@ -8,11 +8,13 @@
 #include <utility>
 
 #include "tactix-qt/Convert.h"
+#include "tactix-qt/PropertyWatch.h"
 #include "tactix-qt/Retirement.h"
 #include "tactix-qt/peers/Keys.h"
 #include "tactix-qt/peers/PeerTree.h"
 #include "tactix-qt/peers/RootPeer.h"
 #include "tactix-qt/peers/TextGrowth.h"
+#include "tactix/platform/PropertyTable.h"
 #include "tactix/platform/UserAction.h"
 
 namespace tactix::qt {
@@ -21,15 +23,25 @@ namespace {
 
 constexpr int SmallestSide = 16;
 
+/// The name of the property that is saved under another one; empty where that is its own.
+std::string OwnNameOf(std::string_view savedAs, const Control& control) {
+  for (const PropertyTable::Row& row : control.Properties().Rows()) {
+    if (row.savedAs == savedAs && row.name != savedAs) return row.name;
+  }
+  return {};
+}
+
 }  // namespace
 
-ControlWidget::ControlWidget(QWidget* parent) : QWidget(parent), site_(std::make_unique<QtSite>(*this)) {}
+ControlWidget::ControlWidget(QWidget* parent)
+    : QWidget(parent), site_(std::make_unique<QtSite>(*this)), watch_(std::make_unique<PropertyWatch>(*this)) {}
 
 ControlWidget::ControlWidget(Maker make, QWidget* parent) : ControlWidget(parent) { Own(make(*site_)); }
 
 ControlWidget::~ControlWidget() { EndControl(); }
 
 void ControlWidget::EndControl() {
+  watch_->Stop();
   if (control_) control_->Terminated();
   RetireNatives();
   // Out of the member first: what the ending control calls may ask for it.
@@ -91,11 +103,15 @@ void ControlWidget::FindFocusEntry() {
 void ControlWidget::setUserMode(bool running) {
   if (running == userMode()) return;
   site_->UserMode(running);
+  const QPointer<ControlWidget> self(this);
   if (control_) RunUserAction(*site_, [this] { control_->AmbientChanged(); });
+  if (self) CompareProperties();
 }
 
 void ControlWidget::readProperties(PropertyBag& bag) {
+  const QPointer<ControlWidget> self(this);
   if (control_) RunUserAction(*site_, [&] { control_->ReadProperties(bag); });
+  if (self) CompareProperties();
 }
 
 void ControlWidget::writeProperties(PropertyBag& bag) {
@@ -122,10 +138,47 @@ void ControlWidget::FontsChanged() {
 
 void ControlWidget::NotifyPropertyChanged(std::string_view name) {
   static const QMetaMethod signal = QMetaMethod::fromSignal(&ControlWidget::propertyChanged);
-  if (isSignalConnected(signal)) Q_EMIT propertyChanged(ToQt(name));
+  const QPointer<ControlWidget> self(this);
+  if (isSignalConnected(signal)) {
+    const std::string ownName = control_ ? OwnNameOf(name, *control_) : std::string();
+    Q_EMIT propertyChanged(ToQt(name));
+    if (self && !ownName.empty()) Q_EMIT propertyChanged(ToQt(ownName));
+  }
+  if (self) CompareProperties();
+}
+
+void ControlWidget::NotifyTouched() { watch_->CompareLater(); }
+
+void ControlWidget::CompareProperties() const { watch_->Compare(); }
+
+void ControlWidget::Reset(std::string_view property, ResetBy way) {
+  if (!control_) return;
+  const QPointer<ControlWidget> self(this);
+  RunUserAction(*site_, [&] {
+    Control& control = *control_;
+    const PropertyTable& table = control.Properties();
+    const PropertyTable::Row& row = *table.Find(property);
+    for (const PropertyTable::SavedRow& saved : table.SavedRows()) {
+      if (saved.name != row.savedAs) continue;
+      (way == ResetBy::Setting ? row.set : saved.restore)(control, saved.defaultValue(control));
+      return;
+    }
+  });
+  if (self) CompareProperties();
+}
+
+void ControlWidget::connectNotify(const QMetaMethod& signal) {
+  watch_->Add(signal);
+  QWidget::connectNotify(signal);
+}
+
+void ControlWidget::disconnectNotify(const QMetaMethod& signal) {
+  watch_->ListenerGone();
+  QWidget::disconnectNotify(signal);
 }
 
 void ControlWidget::NotifyUnhandled(const Error& error) {
+  if (watch_->IsReading()) return;
   static const QMetaMethod signal = QMetaMethod::fromSignal(&ControlWidget::unhandledError);
   if (isSignalConnected(signal)) {
     Q_EMIT unhandledError(ToQt(error.Description()), error.Code());

@@ -4,6 +4,7 @@
 #include <QSizeF>
 #include <QWidget>
 #include <memory>
+#include <string_view>
 
 #include "tactix-qt/Export.h"
 #include "tactix-qt/QtSite.h"
@@ -11,6 +12,7 @@
 
 namespace tactix::qt {
 
+class PropertyWatch;
 class RootPeer;
 
 /// A QWidget that shows a control. The classes named after the controls derive from it and own theirs; it also hosts a
@@ -22,7 +24,7 @@ class RootPeer;
 class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   Q_OBJECT
   /// True by default: the control runs. False in a form designer.
-  Q_PROPERTY(bool userMode READ userMode WRITE setUserMode STORED false DESIGNABLE false)
+  Q_PROPERTY(bool userMode READ userMode WRITE setUserMode NOTIFY userModeChanged STORED false DESIGNABLE false)
 
  public:
   explicit ControlWidget(QWidget* parent = nullptr);
@@ -50,8 +52,10 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
-  /// A persisted property has changed, under this name.
+  /// A persisted property has been set, perhaps to the value that it had. Carries the name under which it is saved;
+  /// where that is spelled otherwise than the property's own, a second signal carries the own one.
   void propertyChanged(const QString& name);
+  void userModeChanged(bool value);
   /// An error that a user's action, a timer, a property or a slot has raised. Where nothing is connected it is logged
   /// as a warning.
   void unhandledError(const QString& text, int code);
@@ -63,9 +67,20 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
 
   /// Takes a new control over, gives it its initial properties, and hosts it.
   void Own(std::unique_ptr<Control> control);
+  /// How a property is reset to the value that it has where a saved form lacks it: as a host sets it, or as a form
+  /// restores it, for setters that do not take that value.
+  enum class ResetBy { Setting, Restoring };
+  void Reset(std::string_view property, ResetBy way = ResetBy::Setting);
+  /// Emits the NOTIFY signals of the properties that have changed. May destroy the widget.
+  void CompareProperties() const;
+  /// Whether reading this property now would create what it reads, which only a host's own read may do.
+  virtual bool ReadingCreates(std::string_view /*property*/) const { return false; }
+
   /// Ends the control. Destructors of derived classes call it first, while their signals are still there.
   void EndControl();
 
+  void connectNotify(const QMetaMethod& signal) override;
+  void disconnectNotify(const QMetaMethod& signal) override;
   bool event(QEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -74,12 +89,14 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
+  friend class PropertyWatch;
   friend class QtSite;
   friend class RootPeer;
   void ControlAttached(Control& control);
   void ControlDetached(Control& control);
   void NotifyPropertyChanged(std::string_view name);
   void NotifyUnhandled(const Error& error);
+  void NotifyTouched();
   void ExtenderMoved();
   void AdoptGeometry();
   void FontsChanged();
@@ -87,6 +104,7 @@ class TACTIX_QT_EXPORT ControlWidget : public QWidget {
   void RetireNatives();
 
   std::unique_ptr<QtSite> site_;
+  std::unique_ptr<PropertyWatch> watch_;
   std::unique_ptr<Control> owned_;
   Control* control_ = nullptr;
   RootPeer* root_ = nullptr;

@@ -14,8 +14,8 @@ namespace tactix::qt {
 class TACTIX_QT_EXPORT CountStrategyList : public WidgetOf<tactix::CountStrategyList, StrategyListControl> {
   Q_OBJECT
   // Forms do not store it: what it reads is not what was written.
-  Q_PROPERTY(
-      CountStrategyPossibilities CountStrategy READ CountStrategy WRITE setCountStrategy STORED false DESIGNABLE false)
+  Q_PROPERTY(CountStrategyPossibilities CountStrategy READ CountStrategy WRITE setCountStrategy RESET resetCountStrategy
+                 NOTIFY CountStrategyChanged STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::CountStrategyPossibilities. Other numbers are read, too.
@@ -65,6 +65,7 @@ class TACTIX_QT_EXPORT CountStrategyList : public WidgetOf<tactix::CountStrategy
 
  public Q_SLOTS:
   void setCountStrategy(CountStrategyPossibilities system);
+  void resetCountStrategy();
   void CountStrategy(CountStrategyPossibilities system) { setCountStrategy(system); }
   /// Refills the box from the catalogue, and ends quietly where that fails.
   void InputCountStrategyDescriptions();
@@ -72,6 +73,11 @@ class TACTIX_QT_EXPORT CountStrategyList : public WidgetOf<tactix::CountStrategy
  Q_SIGNALS:
   /// Carries the row + 10 and the list's text.
   void StrategySelectionChanged(int newStrategySelected, const QString& strategyDescription);
+  /// The same with the number of the system itself, which rows that are missing do not move.
+  void countSystemPicked(CountStrategyPossibilities system, const QString& description);
+
+  /// A property has another value now, see WidgetOf.
+  void CountStrategyChanged(CountStrategyPossibilities value);
 };
 
 }  // namespace tactix::qt

@@ -7,6 +7,10 @@ namespace tactix::qt {
 CountValueSelector::CountValueSelector(QWidget* parent) : WidgetOf(parent) {
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   Relay(&Core::EventSet::CountValueSelected, &CountValueSelector::CountValueSelected);
+  control().Events.CountValueSelected.Connect([this](std::int32_t value) {
+    if (value < LowestPointValue || value > HighestPointValue) return;
+    Q_EMIT countValuePicked(static_cast<CardPointValuePossibilities>(value));
+  });
 }
 
 CountValueSelector::~CountValueSelector() { EndControl(); }
@@ -20,5 +24,8 @@ CountValueSelector::CardPointValuePossibilities CountValueSelector::PointValue()
 
 void CountValueSelector::setCardValue(theCardValuePossibilities card) { Call(&Core::CardValue, card); }
 void CountValueSelector::setPointValue(CardPointValuePossibilities value) { Call(&Core::PointValue, value); }
+
+void CountValueSelector::resetCardValue() { Reset("CardValue"); }
+void CountValueSelector::resetPointValue() { Reset("PointValue", ResetBy::Restoring); }
 
 }  // namespace tactix::qt

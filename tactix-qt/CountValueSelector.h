@@ -11,8 +11,10 @@ namespace tactix::qt {
 /// The point value selector of a card as a widget, see WidgetOf and tactix::CountValueSelector.
 class TACTIX_QT_EXPORT CountValueSelector : public WidgetOf<tactix::CountValueSelector> {
   Q_OBJECT
-  Q_PROPERTY(theCardValuePossibilities CardValue READ CardValue WRITE setCardValue)
-  Q_PROPERTY(CardPointValuePossibilities PointValue READ PointValue WRITE setPointValue STORED false DESIGNABLE false)
+  Q_PROPERTY(theCardValuePossibilities CardValue READ CardValue WRITE setCardValue RESET resetCardValue NOTIFY
+                 CardValueChanged)
+  Q_PROPERTY(CardPointValuePossibilities PointValue READ PointValue WRITE setPointValue RESET resetPointValue NOTIFY
+                 PointValueChanged STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::theCardValuePossibilities. A saved control may hold other numbers.
@@ -69,12 +71,20 @@ class TACTIX_QT_EXPORT CountValueSelector : public WidgetOf<tactix::CountValueSe
  public Q_SLOTS:
   void setCardValue(theCardValuePossibilities card);
   void setPointValue(CardPointValuePossibilities value);
+  void resetCardValue();
+  void resetPointValue();
   void CardValue(theCardValuePossibilities card) { setCardValue(card); }
   void PointValue(CardPointValuePossibilities value) { setPointValue(value); }
 
  Q_SIGNALS:
-  /// Carries the value of the row that was picked.
+  /// Carries the value of the selected row, -11 where a value was set and no row is selected.
   void CountValueSelected(int newCountValue);
+  /// The same where a row is selected.
+  void countValuePicked(CardPointValuePossibilities value);
+
+  /// A property has another value now, see WidgetOf.
+  void CardValueChanged(theCardValuePossibilities value);
+  void PointValueChanged(CardPointValuePossibilities value);
 };
 
 }  // namespace tactix::qt

@@ -11,15 +11,19 @@ namespace tactix::qt {
 
 /// The decision box as a widget, see WidgetOf and tactix::Decision. A signal has its event's name; where a method has
 /// that name too, it ends in "Raised". Slots that take a block fail as the box's do; numbers beyond 16 bits fail
-/// with 6.
+/// with 6. A click on the advice button and FlashObject wait for 1.6 seconds, see WidgetOf.
 class TACTIX_QT_EXPORT Decision : public WidgetOf<tactix::Decision> {
   Q_OBJECT
-  Q_PROPERTY(AdviceButtonAppearance AllowAdvice READ AllowAdvice WRITE setAllowAdvice)
-  Q_PROPERTY(TypeOfDecisionBox DecisionBoxType READ DecisionBoxType WRITE setDecisionBoxType)
-  Q_PROPERTY(int thisKelvoEdition READ thisKelvoEdition STORED false DESIGNABLE false)
-  Q_PROPERTY(bool PromptThePlayButtons READ PromptThePlayButtons WRITE setPromptThePlayButtons STORED false)
-  Q_PROPERTY(bool PlayButtonPromptStatus READ PlayButtonPromptStatus STORED false DESIGNABLE false)
-  Q_PROPERTY(QString ToolTip READ ToolTip WRITE setControlToolTip)
+  Q_PROPERTY(AdviceButtonAppearance AllowAdvice READ AllowAdvice WRITE setAllowAdvice NOTIFY AllowAdviceChanged)
+  Q_PROPERTY(
+      TypeOfDecisionBox DecisionBoxType READ DecisionBoxType WRITE setDecisionBoxType NOTIFY DecisionBoxTypeChanged)
+  Q_PROPERTY(int thisKelvoEdition READ thisKelvoEdition NOTIFY thisKelvoEditionChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool PromptThePlayButtons READ PromptThePlayButtons WRITE setPromptThePlayButtons NOTIFY
+                 PromptThePlayButtonsChanged STORED false)
+  Q_PROPERTY(bool PlayButtonPromptStatus READ PlayButtonPromptStatus NOTIFY PlayButtonPromptStatusChanged
+                 STORED false DESIGNABLE false)
+  Q_PROPERTY(QString ToolTip READ ToolTip WRITE setControlToolTip NOTIFY ToolTipChanged)
+  // Without a signal: it never changes.
   Q_PROPERTY(QString Qualifier READ Qualifier WRITE setQualifier STORED false)
 
  public:
@@ -36,6 +40,15 @@ class TACTIX_QT_EXPORT Decision : public WidgetOf<tactix::Decision> {
     forUseWithBlackjackTable = int(tactix::TypeOfDecisionBox::forUseWithBlackjackTable),
   };
   Q_ENUM(TypeOfDecisionBox)
+  /// The rows of tactix::AdvicePossibilities, for GiveAdvice.
+  enum AdvicePossibilities : std::int32_t {
+    HitAdvised = int(tactix::AdvicePossibilities::HitAdvised),
+    StandAdvised = int(tactix::AdvicePossibilities::StandAdvised),
+    SplitAdvised = int(tactix::AdvicePossibilities::SplitAdvised),
+    DoubleAdvised = int(tactix::AdvicePossibilities::DoubleAdvised),
+    SurrenderAdvised = int(tactix::AdvicePossibilities::SurrenderAdvised),
+  };
+  Q_ENUM(AdvicePossibilities)
 
   explicit Decision(QWidget* parent = nullptr);
   ~Decision() override;
@@ -72,7 +85,7 @@ class TACTIX_QT_EXPORT Decision : public WidgetOf<tactix::Decision> {
   void PromptThePlayButtons(bool prompt) { setPromptThePlayButtons(prompt); }
   void ToolTip(const QString& text) { setControlToolTip(text); }
   void Qualifier(const QString& ignored) { setQualifier(ignored); }
-  /// Replaces the advised decision, coded as in tactix::AdvicePossibilities.
+  /// Replaces the advised decision, a row of AdvicePossibilities; others advise nothing.
   void GiveAdvice(int recommendedAdvice);
   /// Names the strategy behind the advice in the advice button's tool tip.
   void ToolTipMessage(const QString& toolTipStrategy);
@@ -130,7 +143,7 @@ class TACTIX_QT_EXPORT Decision : public WidgetOf<tactix::Decision> {
   void PlayerStands();
   void PlayerSurrenders();
   void PlugHandCardsInClipboard();
-  /// Never emitted, like ShowRaised.
+  /// Never emitted.
   void PlugPromptPlayHands();
   void TensRatioHiPrediction();
   void TensRatioLoPrediction();
@@ -138,7 +151,16 @@ class TACTIX_QT_EXPORT Decision : public WidgetOf<tactix::Decision> {
   void WholeCardLoPrediction();
   void WholeCardNeutralPrediction();
   void WholeCardUnknownPrediction();
+  /// Never emitted.
   void ShowRaised();
+
+  /// A property has another value now, see WidgetOf.
+  void AllowAdviceChanged(AdviceButtonAppearance value);
+  void DecisionBoxTypeChanged(TypeOfDecisionBox value);
+  void thisKelvoEditionChanged(int value);
+  void PromptThePlayButtonsChanged(bool value);
+  void PlayButtonPromptStatusChanged(bool value);
+  void ToolTipChanged(const QString& value);
 };
 
 }  // namespace tactix::qt

@@ -12,10 +12,14 @@ namespace tactix::qt {
 /// 16 bits fail with 6.
 class TACTIX_QT_EXPORT DecisionRegisterControl : public WidgetOf<Control> {
   Q_OBJECT
-  Q_PROPERTY(int NumberOfDecisions READ NumberOfDecisions WRITE setNumberOfDecisions STORED false)
-  Q_PROPERTY(int NumberOfCorrectDecisions READ NumberOfCorrectDecisions WRITE setNumberOfCorrectDecisions STORED false)
-  Q_PROPERTY(int NumberOfBreakDecisions READ NumberOfBreakDecisions WRITE setNumberOfBreakDecisions STORED false)
-  Q_PROPERTY(DecisionRegisterType TypeOfDecisionRegister READ TypeOfDecisionRegister WRITE setTypeOfDecisionRegister)
+  Q_PROPERTY(int NumberOfDecisions READ NumberOfDecisions WRITE setNumberOfDecisions NOTIFY NumberOfDecisionsChanged
+                 STORED false)
+  Q_PROPERTY(int NumberOfCorrectDecisions READ NumberOfCorrectDecisions WRITE setNumberOfCorrectDecisions NOTIFY
+                 NumberOfCorrectDecisionsChanged STORED false)
+  Q_PROPERTY(int NumberOfBreakDecisions READ NumberOfBreakDecisions WRITE setNumberOfBreakDecisions NOTIFY
+                 NumberOfBreakDecisionsChanged STORED false)
+  Q_PROPERTY(DecisionRegisterType TypeOfDecisionRegister READ TypeOfDecisionRegister WRITE setTypeOfDecisionRegister
+                 NOTIFY TypeOfDecisionRegisterChanged)
 
  public:
   /// The rows of tactix::DecisionRegisterType. Other numbers are kept, too.
@@ -63,6 +67,13 @@ class TACTIX_QT_EXPORT DecisionRegisterControl : public WidgetOf<Control> {
   void ResetDecisionData();
   /// Arranges the panel with or without the line of breaks.
   void SetupStatisticsBox(bool breakDecisions);
+
+ Q_SIGNALS:
+  /// A property has another value now, see WidgetOf.
+  void NumberOfDecisionsChanged(int value);
+  void NumberOfCorrectDecisionsChanged(int value);
+  void NumberOfBreakDecisionsChanged(int value);
+  void TypeOfDecisionRegisterChanged(DecisionRegisterType value);
 
  protected:
   DecisionRegisterControl(Maker make, QWidget* parent);

@@ -107,4 +107,15 @@ void Bar::ResetYourResponseData() { Call(&Core::ResetYourResponseData); }
 void Bar::FlashObject(const ObjectRef& button) { Call(&Core::FlashObject, button); }
 void Bar::BlinkTime(float seconds) { Call(&Core::BlinkTime, seconds); }
 
+void Bar::resetAlignment() { Reset("Alignment"); }
+void Bar::resetHitcardButtonsVisibility() { Reset("HitcardButtonsVisibility"); }
+void Bar::resetHolecardButtonsVisibility() { Reset("HolecardButtonsVisibility"); }
+void Bar::resetTensRatioButtonVisibility() { Reset("TensRatioButtonVisibility"); }
+void Bar::resetDealerStrengthButtonsVisibility() { Reset("DealerStrengthButtonsVisibility"); }
+void Bar::resetStatusButtonButtonVisibility() { Reset("StatusButtonButtonVisibility"); }
+
+bool Bar::ReadingCreates(std::string_view property) const {
+  return property == "KelvoEdition" && !control().HasKelvoEdition();
+}
+
 }  // namespace tactix::qt

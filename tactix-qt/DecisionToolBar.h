@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <string_view>
 
 #include "tactix-qt/Export.h"
 #include "tactix-qt/WidgetOf.h"
@@ -10,23 +11,30 @@
 namespace tactix::qt {
 
 /// What the two decision toolbars have in common as widgets, see WidgetOf and tactix::DecisionToolBarControl. Slots
-/// that take a block fail as the toolbar's do.
+/// that take a block fail as the toolbar's do. A click on Advice and FlashObject wait for 1.6 seconds, see WidgetOf.
 class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::DecisionToolBarControl> {
   Q_OBJECT
-  Q_PROPERTY(DecisionBARAlignment Alignment READ Alignment WRITE setAlignment)
+  Q_PROPERTY(
+      DecisionBARAlignment Alignment READ Alignment WRITE setAlignment RESET resetAlignment NOTIFY AlignmentChanged)
   Q_PROPERTY(ButtonStatusPossibilities HitcardButtonsVisibility READ HitcardButtonsVisibility WRITE
-                 setHitcardButtonsVisibility)
-  Q_PROPERTY(ButtonStatusPossibilities HolecardButtonsVisibility READ HolecardButtonsVisibility WRITE
-                 setHolecardButtonsVisibility)
-  Q_PROPERTY(ButtonStatusPossibilities TensRatioButtonVisibility READ TensRatioButtonVisibility WRITE
-                 setTensRatioButtonVisibility)
+                 setHitcardButtonsVisibility RESET resetHitcardButtonsVisibility NOTIFY HitcardButtonsVisibilityChanged)
+  Q_PROPERTY(
+      ButtonStatusPossibilities HolecardButtonsVisibility READ HolecardButtonsVisibility WRITE
+          setHolecardButtonsVisibility RESET resetHolecardButtonsVisibility NOTIFY HolecardButtonsVisibilityChanged)
+  Q_PROPERTY(
+      ButtonStatusPossibilities TensRatioButtonVisibility READ TensRatioButtonVisibility WRITE
+          setTensRatioButtonVisibility RESET resetTensRatioButtonVisibility NOTIFY TensRatioButtonVisibilityChanged)
   Q_PROPERTY(ButtonStatusPossibilities DealerStrengthButtonsVisibility READ DealerStrengthButtonsVisibility WRITE
-                 setDealerStrengthButtonsVisibility)
+                 setDealerStrengthButtonsVisibility RESET resetDealerStrengthButtonsVisibility NOTIFY
+                     DealerStrengthButtonsVisibilityChanged)
+  // Without a signal: it always reads 0.
   Q_PROPERTY(ButtonStatusPossibilities StatusButtonButtonVisibility READ StatusButtonButtonVisibility WRITE
-                 setStatusButtonButtonVisibility)
-  Q_PROPERTY(int thisKelvoEdition READ thisKelvoEdition STORED false DESIGNABLE false)
-  Q_PROPERTY(tactix::ObjectRef KelvoEdition READ KelvoEdition WRITE setKelvoEdition STORED false DESIGNABLE false)
-  Q_PROPERTY(bool ResetPredictionButtons READ ResetPredictionButtons WRITE setResetPredictionButtons STORED false)
+                 setStatusButtonButtonVisibility RESET resetStatusButtonButtonVisibility)
+  Q_PROPERTY(int thisKelvoEdition READ thisKelvoEdition NOTIFY thisKelvoEditionChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(tactix::ObjectRef KelvoEdition READ KelvoEdition WRITE setKelvoEdition NOTIFY KelvoEditionChanged
+                 STORED false DESIGNABLE false)
+  Q_PROPERTY(bool ResetPredictionButtons READ ResetPredictionButtons WRITE setResetPredictionButtons NOTIFY
+                 ResetPredictionButtonsChanged STORED false)
 
  public:
   /// The rows of tactix::DecisionBARAlignment. Other numbers are kept, too.
@@ -44,6 +52,15 @@ class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::Decision
     ButtonsAreInvisible = int(tactix::ButtonStatusPossibilities::ButtonsAreInvisible),
   };
   Q_ENUM(ButtonStatusPossibilities)
+  /// The rows of tactix::AdvicePossibilities, for a block's advice.
+  enum AdvicePossibilities : std::int32_t {
+    HitAdvised = int(tactix::AdvicePossibilities::HitAdvised),
+    StandAdvised = int(tactix::AdvicePossibilities::StandAdvised),
+    SplitAdvised = int(tactix::AdvicePossibilities::SplitAdvised),
+    DoubleAdvised = int(tactix::AdvicePossibilities::DoubleAdvised),
+    SurrenderAdvised = int(tactix::AdvicePossibilities::SurrenderAdvised),
+  };
+  Q_ENUM(AdvicePossibilities)
 
   ~DecisionToolBarControl() override;
 
@@ -59,7 +76,7 @@ class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::Decision
   /// The edition code last read, 0 by default.
   int thisKelvoEdition() const;
   /// The edition object. Reading it while there is none creates one, and fails with 91 where nothing creates editions,
-  /// see tactix::DefaultEdition.
+  /// see tactix::DefaultEdition; KelvoEditionChanged tells of the new one, and being connected to it creates none.
   tactix::ObjectRef KelvoEdition() const;
   /// Whether GetReadyForADecision clears the predictions, false by default.
   bool ResetPredictionButtons() const;
@@ -75,6 +92,12 @@ class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::Decision
   void setStatusButtonButtonVisibility(ButtonStatusPossibilities visibility);
   void setKelvoEdition(const tactix::ObjectRef& edition);
   void setResetPredictionButtons(bool reset);
+  void resetAlignment();
+  void resetHitcardButtonsVisibility();
+  void resetHolecardButtonsVisibility();
+  void resetTensRatioButtonVisibility();
+  void resetDealerStrengthButtonsVisibility();
+  void resetStatusButtonButtonVisibility();
   void Alignment(DecisionBARAlignment alignment) { setAlignment(alignment); }
   void HitcardButtonsVisibility(ButtonStatusPossibilities visibility) { setHitcardButtonsVisibility(visibility); }
   void HolecardButtonsVisibility(ButtonStatusPossibilities visibility) { setHolecardButtonsVisibility(visibility); }
@@ -132,8 +155,19 @@ class TACTIX_QT_EXPORT DecisionToolBarControl : public WidgetOf<tactix::Decision
   /// Never emitted: the host collects predictions with GiveMeYourResponseData.
   void HereIsAResponseBlock(const tactix::DecisionBARResponseObject& responseBlock);
 
+  /// A property has another value now, see WidgetOf.
+  void AlignmentChanged(DecisionBARAlignment value);
+  void HitcardButtonsVisibilityChanged(ButtonStatusPossibilities value);
+  void HolecardButtonsVisibilityChanged(ButtonStatusPossibilities value);
+  void TensRatioButtonVisibilityChanged(ButtonStatusPossibilities value);
+  void DealerStrengthButtonsVisibilityChanged(ButtonStatusPossibilities value);
+  void thisKelvoEditionChanged(int value);
+  void KelvoEditionChanged(const tactix::ObjectRef& value);
+  void ResetPredictionButtonsChanged(bool value);
+
  protected:
   DecisionToolBarControl(Maker make, QWidget* parent);
+  bool ReadingCreates(std::string_view property) const override;
 };
 
 }  // namespace tactix::qt

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPointer>
 #include <QString>
 #include <cstdint>
 #include <string>
@@ -53,6 +54,14 @@ T FromControl(const Value& value) {
 template <class C, class Base>
 template <class Action>
 void WidgetOf<C, Base>::Run(Action&& action) const {
+  const QPointer<const QWidget> self(this);
+  Look(action);
+  if (self) this->CompareProperties();
+}
+
+template <class C, class Base>
+template <class Action>
+void WidgetOf<C, Base>::Look(Action&& action) const {
   auto* const control = static_cast<C*>(this->Hosted());
   if (control) RunUserAction(this->ItsSite(), [&] { action(*control); });
 }
@@ -67,7 +76,7 @@ template <class C, class Base>
 template <class T, class Action>
 T WidgetOf<C, Base>::Read(Action&& action, T fallback) const {
   T result = std::move(fallback);
-  Run([&](C& control) { result = FromControl<T>(action(control)); });
+  Look([&](C& control) { result = FromControl<T>(action(control)); });
   return result;
 }
 

@@ -10,7 +10,8 @@ namespace tactix::qt {
 /// What the lists of playing and betting strategies have in common as widgets, see tactix::NumberedStrategyList.
 class TACTIX_QT_EXPORT NumberedStrategyList : public WidgetOf<tactix::NumberedStrategyList, StrategyListControl> {
   Q_OBJECT
-  Q_PROPERTY(int SelectThisStrategy READ SelectThisStrategy WRITE setSelectThisStrategy STORED false DESIGNABLE false)
+  Q_PROPERTY(int SelectThisStrategy READ SelectThisStrategy WRITE setSelectThisStrategy NOTIFY SelectThisStrategyChanged
+                 STORED false DESIGNABLE false)
 
  public:
   ~NumberedStrategyList() override;
@@ -26,6 +27,9 @@ class TACTIX_QT_EXPORT NumberedStrategyList : public WidgetOf<tactix::NumberedSt
  Q_SIGNALS:
   /// Carries the number of the strategy, the row - 1.
   void StrategySelectionChanged(int newStrategySelected);
+
+  /// A property has another value now, see WidgetOf.
+  void SelectThisStrategyChanged(int value);
 
  protected:
   NumberedStrategyList(Maker make, QWidget* parent);

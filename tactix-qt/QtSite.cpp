@@ -71,6 +71,8 @@ Color QtSite::AmbientBackColor() const { return AmbientColor(widget_, QPalette::
 
 void QtSite::PropertyChanged(std::string_view name) { widget_.NotifyPropertyChanged(name); }
 
+void QtSite::PropertyTouched() { widget_.NotifyTouched(); }
+
 void QtSite::StartTimer(Timer& timer) { timers_->Start(timer); }
 
 void QtSite::StopTimer(Timer& timer) { timers_->Stop(timer); }

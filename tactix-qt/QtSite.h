@@ -39,6 +39,7 @@ class TACTIX_QT_EXPORT QtSite final : public Site {
   bool UserMode() const override { return userMode_; }
   void UserMode(bool running) { userMode_ = running; }
   void PropertyChanged(std::string_view name) override;
+  void PropertyTouched() override;
   void StartTimer(Timer& timer) override;
   void StopTimer(Timer& timer) override;
   /// Ends early when the application quits.
@@ -58,6 +59,8 @@ class TACTIX_QT_EXPORT QtSite final : public Site {
   // For peers: Qt has moved the focus.
   void FocusArrived(Widget& widget);
   void FocusLeft();
+  // For peers: a child widget has changed, and a property with it, perhaps.
+  void WidgetChanged() { PropertyTouched(); }
   // For peers: a user can reach a child widget from now on, or no longer.
   void ReachChanged();
   // For peers: a child widget has another font.

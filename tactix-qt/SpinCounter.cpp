@@ -32,4 +32,14 @@ void SpinCounter::setControlFont(const QFont& font) { Call(&Core::Font, font); }
 void SpinCounter::setUseDefaultSize(bool use) { Call(&Core::UseDefaultSize, use); }
 void SpinCounter::ResetSizeToDefault() { Call(&Core::ResetSizeToDefault); }
 
+void SpinCounter::resetMaximumLimit() { Reset("MaximumLimit"); }
+void SpinCounter::resetAllowNegNumbers() { Reset("AllowNegNumbers"); }
+void SpinCounter::resetCounterValue() { Reset("CounterValue"); }
+void SpinCounter::resetControlHandedness() { Reset("ControlHandedness"); }
+void SpinCounter::resetFont() { Reset("Font"); }
+
+bool SpinCounter::ReadingCreates(std::string_view property) const {
+  return property == "CounterValue" && !control().HasCounterValue();
+}
+
 }  // namespace tactix::qt

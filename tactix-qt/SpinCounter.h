@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <cstdint>
+#include <string_view>
 
 #include "tactix-qt/Export.h"
 #include "tactix-qt/WidgetOf.h"
@@ -10,16 +11,22 @@
 namespace tactix::qt {
 
 /// The spin counter as a widget, see WidgetOf and tactix::SpinCounter. Numbers beyond 16 bits fail with 6. In a layout
-/// it keeps its width.
+/// it keeps its width. CounterValueChanged is the property's, CounterValueHasChanged the control's event, which also
+/// comes where a step changes nothing.
 class TACTIX_QT_EXPORT SpinCounter : public WidgetOf<tactix::SpinCounter> {
   Q_OBJECT
   // In the order in which a form must set them: the number comes after what limits it.
-  Q_PROPERTY(int MaximumLimit READ MaximumLimit WRITE setMaximumLimit)
-  Q_PROPERTY(bool NumberWrap READ NumberWrap WRITE setNumberWrap)
-  Q_PROPERTY(bool AllowNegNumbers READ AllowNegNumbers WRITE setAllowNegNumbers)
-  Q_PROPERTY(int CounterValue READ CounterValue WRITE setCounterValue)
-  Q_PROPERTY(SpinCounterPossibilities ControlHandedness READ ControlHandedness WRITE setControlHandedness)
-  Q_PROPERTY(QFont Font READ Font WRITE setControlFont)
+  Q_PROPERTY(
+      int MaximumLimit READ MaximumLimit WRITE setMaximumLimit RESET resetMaximumLimit NOTIFY MaximumLimitChanged)
+  Q_PROPERTY(bool NumberWrap READ NumberWrap WRITE setNumberWrap NOTIFY NumberWrapChanged)
+  Q_PROPERTY(bool AllowNegNumbers READ AllowNegNumbers WRITE setAllowNegNumbers RESET resetAllowNegNumbers NOTIFY
+                 AllowNegNumbersChanged)
+  Q_PROPERTY(
+      int CounterValue READ CounterValue WRITE setCounterValue RESET resetCounterValue NOTIFY CounterValueChanged)
+  Q_PROPERTY(SpinCounterPossibilities ControlHandedness READ ControlHandedness WRITE setControlHandedness RESET
+                 resetControlHandedness NOTIFY ControlHandednessChanged)
+  Q_PROPERTY(QFont Font READ Font WRITE setControlFont RESET resetFont NOTIFY FontChanged)
+  // Without a signal: it always reads false.
   Q_PROPERTY(bool UseDefaultSize READ UseDefaultSize WRITE setUseDefaultSize STORED false)
 
  public:
@@ -59,6 +66,11 @@ class TACTIX_QT_EXPORT SpinCounter : public WidgetOf<tactix::SpinCounter> {
   void setControlHandedness(SpinCounterPossibilities handedness);
   void setControlFont(const QFont& font);
   void setUseDefaultSize(bool use);
+  void resetMaximumLimit();
+  void resetAllowNegNumbers();
+  void resetCounterValue();
+  void resetControlHandedness();
+  void resetFont();
   void MaximumLimit(int limit) { setMaximumLimit(limit); }
   void NumberWrap(bool wrap) { setNumberWrap(wrap); }
   void AllowNegNumbers(bool allow) { setAllowNegNumbers(allow); }
@@ -72,6 +84,17 @@ class TACTIX_QT_EXPORT SpinCounter : public WidgetOf<tactix::SpinCounter> {
  Q_SIGNALS:
   /// After each accepted change and each step.
   void CounterValueHasChanged(int newCounterValue);
+
+  /// A property has another value now, see WidgetOf.
+  void MaximumLimitChanged(int value);
+  void NumberWrapChanged(bool value);
+  void AllowNegNumbersChanged(bool value);
+  void CounterValueChanged(int value);
+  void ControlHandednessChanged(SpinCounterPossibilities value);
+  void FontChanged(const QFont& value);
+
+ protected:
+  bool ReadingCreates(std::string_view property) const override;
 };
 
 }  // namespace tactix::qt

@@ -52,4 +52,12 @@ void StrategyListControl::UseThisStrategyList(const ObjectRef& thisStrategyList)
   Call(&Core::UseThisStrategyList, thisStrategyList);
 }
 
+void StrategyListControl::resetBackColor() { Reset("BackColor"); }
+void StrategyListControl::resetForeColor() { Reset("ForeColor"); }
+void StrategyListControl::resetEnabled() { Reset("Enabled"); }
+void StrategyListControl::resetFont() { Reset("Font"); }
+void StrategyListControl::resetText() { Reset("Text"); }
+void StrategyListControl::resetToolTipText() { Reset("ToolTipText"); }
+void StrategyListControl::resetDefaultContent() { Reset("DefaultContent"); }
+
 }  // namespace tactix::qt

@@ -15,18 +15,19 @@ namespace tactix::qt {
 /// colour that is not valid is the system's. Numbers beyond 16 bits fail with 6.
 class TACTIX_QT_EXPORT StrategyListControl : public WidgetOf<tactix::StrategyListControl> {
   Q_OBJECT
-  Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor)
-  Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor)
-  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled)
-  Q_PROPERTY(QFont Font READ Font WRITE setControlFont)
-  Q_PROPERTY(QString Text READ Text WRITE setText)
-  Q_PROPERTY(QString ToolTipText READ ToolTipText WRITE setToolTipText)
-  Q_PROPERTY(QString DefaultContent READ DefaultContent WRITE setDefaultContent STORED false)
-  Q_PROPERTY(TypeOfStrategyControl ControlType READ ControlType WRITE setControlType)
-  Q_PROPERTY(int ListIndex READ ListIndex WRITE setListIndex STORED false DESIGNABLE false)
-  Q_PROPERTY(int Style READ Style STORED false)
-  Q_PROPERTY(bool Visible READ Visible WRITE setControlVisible)
-  Q_PROPERTY(int StrategyCount READ StrategyCount STORED false DESIGNABLE false)
+  Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor RESET resetBackColor NOTIFY BackColorChanged)
+  Q_PROPERTY(QColor ForeColor READ ForeColor WRITE setForeColor RESET resetForeColor NOTIFY ForeColorChanged)
+  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled RESET resetEnabled NOTIFY EnabledChanged)
+  Q_PROPERTY(QFont Font READ Font WRITE setControlFont RESET resetFont NOTIFY FontChanged)
+  Q_PROPERTY(QString Text READ Text WRITE setText RESET resetText NOTIFY TextChanged)
+  Q_PROPERTY(QString ToolTipText READ ToolTipText WRITE setToolTipText RESET resetToolTipText NOTIFY ToolTipTextChanged)
+  Q_PROPERTY(QString DefaultContent READ DefaultContent WRITE setDefaultContent RESET resetDefaultContent NOTIFY
+                 DefaultContentChanged STORED false)
+  Q_PROPERTY(TypeOfStrategyControl ControlType READ ControlType WRITE setControlType NOTIFY ControlTypeChanged)
+  Q_PROPERTY(int ListIndex READ ListIndex WRITE setListIndex NOTIFY ListIndexChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(int Style READ Style STORED false CONSTANT)
+  Q_PROPERTY(bool Visible READ Visible WRITE setControlVisible NOTIFY VisibleChanged)
+  Q_PROPERTY(int StrategyCount READ StrategyCount NOTIFY StrategyCountChanged STORED false DESIGNABLE false)
 
  public:
   /// The rows of tactix::TypeOfStrategyControl. Other numbers are kept, too.
@@ -76,6 +77,13 @@ class TACTIX_QT_EXPORT StrategyListControl : public WidgetOf<tactix::StrategyLis
   void setControlType(TypeOfStrategyControl type);
   void setListIndex(int strategy);
   void setControlVisible(bool visible);
+  void resetBackColor();
+  void resetForeColor();
+  void resetEnabled();
+  void resetFont();
+  void resetText();
+  void resetToolTipText();
+  void resetDefaultContent();
   void BackColor(const QColor& color) { setBackColor(color); }
   void ForeColor(const QColor& color) { setForeColor(color); }
   void Enabled(bool enabled) { setControlEnabled(enabled); }
@@ -94,6 +102,20 @@ class TACTIX_QT_EXPORT StrategyListControl : public WidgetOf<tactix::StrategyLis
   void LoadStrategiesFromIniFile();
   /// Keeps the host's collection and its count. Null fails with 91.
   void UseThisStrategyList(const tactix::ObjectRef& thisStrategyList);
+
+ Q_SIGNALS:
+  /// A property has another value now, see WidgetOf.
+  void BackColorChanged(const QColor& value);
+  void ForeColorChanged(const QColor& value);
+  void EnabledChanged(bool value);
+  void FontChanged(const QFont& value);
+  void TextChanged(const QString& value);
+  void ToolTipTextChanged(const QString& value);
+  void DefaultContentChanged(const QString& value);
+  void ControlTypeChanged(TypeOfStrategyControl value);
+  void ListIndexChanged(int value);
+  void VisibleChanged(bool value);
+  void StrategyCountChanged(int value);
 
  protected:
   StrategyListControl(Maker make, QWidget* parent);

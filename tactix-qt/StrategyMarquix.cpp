@@ -50,4 +50,8 @@ void StrategyMarquix::UseThisStrategyList(const ObjectRef& thisStrategyList) {
   Call(&Core::UseThisStrategyList, thisStrategyList);
 }
 
+// What a saved marquee lacks stays as it is, so these defaults are not in its table.
+void StrategyMarquix::resetCaption() { setCaption(ToQt(Core::DefaultCaption)); }
+void StrategyMarquix::resetControlType() { setControlType(IsNotYetAssigned); }
+
 }  // namespace tactix::qt

@@ -12,11 +12,13 @@ namespace tactix::qt {
 /// The strategy marquee as a widget, see WidgetOf and tactix::StrategyMarquix. Numbers beyond 16 bits fail with 6.
 class TACTIX_QT_EXPORT StrategyMarquix : public WidgetOf<tactix::StrategyMarquix> {
   Q_OBJECT
-  Q_PROPERTY(QString Caption READ Caption WRITE setCaption)
-  Q_PROPERTY(TypeOfStrategyMarquixControl ControlType READ ControlType WRITE setControlType)
-  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled)
-  Q_PROPERTY(int ListIndex READ ListIndex WRITE setListIndex STORED false DESIGNABLE false)
-  Q_PROPERTY(StrategyListFormats ourStrategyListFormats READ ourStrategyListFormats WRITE setOurStrategyListFormats)
+  Q_PROPERTY(QString Caption READ Caption WRITE setCaption RESET resetCaption NOTIFY CaptionChanged)
+  Q_PROPERTY(TypeOfStrategyMarquixControl ControlType READ ControlType WRITE setControlType RESET resetControlType
+                 NOTIFY ControlTypeChanged)
+  Q_PROPERTY(bool Enabled READ Enabled WRITE setControlEnabled NOTIFY EnabledChanged)
+  Q_PROPERTY(int ListIndex READ ListIndex WRITE setListIndex NOTIFY ListIndexChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(StrategyListFormats ourStrategyListFormats READ ourStrategyListFormats WRITE setOurStrategyListFormats
+                 NOTIFY ourStrategyListFormatsChanged)
 
  public:
   /// The rows of tactix::TypeOfStrategyMarquixControl. Other numbers are kept, too.
@@ -48,7 +50,8 @@ class TACTIX_QT_EXPORT StrategyMarquix : public WidgetOf<tactix::StrategyMarquix
   /// The list's selected row - 1, -2 by default: none. Writing a row that there is not fails with 380; reading one past
   /// 32768 fails with 6.
   int ListIndex() const;
-  /// Kept for the host, ShowAllStrategies by default.
+  /// Kept for the host, ShowAllStrategies by default. A write to the control's own member is signalled with the next
+  /// change.
   StrategyListFormats ourStrategyListFormats() const;
   /// Whether a strategy numbered 1 or higher is selected.
   Q_INVOKABLE bool aStrategyExists() const;
@@ -59,6 +62,8 @@ class TACTIX_QT_EXPORT StrategyMarquix : public WidgetOf<tactix::StrategyMarquix
   void setControlEnabled(bool enabled);
   void setListIndex(int strategy);
   void setOurStrategyListFormats(StrategyListFormats formats);
+  void resetCaption();
+  void resetControlType();
   void Caption(const QString& caption) { setCaption(caption); }
   void ControlType(TypeOfStrategyMarquixControl type) { setControlType(type); }
   void Enabled(bool enabled) { setControlEnabled(enabled); }
@@ -79,11 +84,19 @@ class TACTIX_QT_EXPORT StrategyMarquix : public WidgetOf<tactix::StrategyMarquix
   void UseThisStrategyList(const tactix::ObjectRef& thisStrategyList);
 
  Q_SIGNALS:
-  /// Never emitted, like the next one.
+  /// Never emitted.
   void BettingStrategySelected(int index);
+  /// Never emitted.
   void PlayingStrategySelected(int index);
   /// Carries the number of the strategy, the row - 1.
   void StrategySelectionChanged(int newStrategySelected);
+
+  /// A property has another value now, see WidgetOf.
+  void CaptionChanged(const QString& value);
+  void ControlTypeChanged(TypeOfStrategyMarquixControl value);
+  void EnabledChanged(bool value);
+  void ListIndexChanged(int value);
+  void ourStrategyListFormatsChanged(StrategyListFormats value);
 };
 
 }  // namespace tactix::qt

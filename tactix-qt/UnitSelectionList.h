@@ -17,6 +17,8 @@ class TACTIX_QT_EXPORT UnitSelectionList : public WidgetOf<tactix::UnitSelection
  Q_SIGNALS:
   /// Carries the row: 0 for one unit.
   void UnitSizeSelected(int unitsSelected);
+  /// The same as a number of units, from 1 up.
+  void unitSizePicked(int units);
 };
 
 }  // namespace tactix::qt

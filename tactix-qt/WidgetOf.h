@@ -21,6 +21,17 @@ namespace tactix::qt {
 /// the error comes out of unhandledError, once. What is no tactix::Error comes out as error 5 with its text. A host
 /// that wants the exceptions, or numbers in the control's own types, calls control().
 ///
+/// Each property that can change has a signal `XChanged` with its new value. It comes after whatever has changed it: a
+/// call of the widget or of the control, a restored form, the user. After a call of the widget and where
+/// propertyChanged comes, it comes at once, else when the event loop runs again; several changes until then are one.
+/// Setting what a property has already emits nothing. What a host's own object changes by itself is seen with the next
+/// change. A property that the controls save has a slot `resetX`, which sets what it has where a saved form lacks it.
+///
+/// A click on an advice button, FlashObject and BlinkTime wait in a nested event loop: a flash for 1.6 seconds,
+/// BlinkTime as long as it is told. All goes on meanwhile: the user clicks, timers fire, slots are called, waits nest,
+/// and the widget may be destroyed, so a caller checks that it still exists when the call comes back. Nothing waits in
+/// threads: the widgets and all that they are given belong to the GUI thread.
+///
 /// While the control ends, in the widget's destructor, reads give an empty value, and nothing else happens.
 ///
 /// Two such classes with members in common have a class between them and ControlWidget, the Base; where that one is a
@@ -44,7 +55,8 @@ class WidgetOf : public Base {
   // What properties, slots and signals consist of. Defined in Forwarding.h, which also converts between the types of
   // the control and those of Qt.
 
-  /// Runs an action on the control. What fails goes to unhandledError. An action may destroy the widget.
+  /// Runs an action on the control, then emits the signals of the properties that it has changed. What fails goes to
+  /// unhandledError. An action and the signals' slots may destroy the widget.
   template <class Action>
   void Run(Action&& action) const;
   /// Runs a method, or the writing half of a property.
@@ -62,6 +74,10 @@ class WidgetOf : public Base {
   T GetOr(T fallback, R (K::*getter)() const) const;
   template <class T, class K, class R>
   T GetOr(T fallback, R (K::*getter)()) const;
+
+  /// Runs an action on the control that changes nothing.
+  template <class Action>
+  void Look(Action&& action) const;
 
   /// Emits a signal of the derived class whenever the control raises an event.
   template <class Events, class... Args, class Self, class... Params>

@@ -65,6 +65,7 @@ void Peer::Changed(Widget&, Aspect aspect) {
   // What hears of a focus that has to move may end the control.
   const Weak<QtSite> site(site_);
   if (aspect == Aspect::Font) fontSource_ = SourceOfFont();
+  site_.WidgetChanged();
   Update(aspect);
   if (site && aspect == Aspect::Font) site_.FontsChanged();
   if (site && widget_ && (aspect == Aspect::Visible || aspect == Aspect::Enabled)) site_.ReachChanged();

@@ -29,13 +29,18 @@ class TACTIX_EXPORT SpinCounter : public Control {
   /// announced and reported.
   std::int16_t CounterValue();
   void CounterValue(std::int16_t value);
+  /// Whether there is a number yet: reading it creates one.
+  bool HasCounterValue() const { return value_ != nullptr; }
   /// 1 to 999; 999 by default. A saved one is restored even if it is outside that range.
   std::int16_t MaximumLimit() const { return maximumLimit_; }
   void MaximumLimit(std::int16_t limit);
   /// Whether stepping down from the lower end goes on at MaximumLimit; false by default. Neither saved nor announced.
   /// Stepping up never wraps.
   bool NumberWrap() const { return numberWrap_; }
-  void NumberWrap(bool wrap) { numberWrap_ = wrap; }
+  void NumberWrap(bool wrap) {
+    numberWrap_ = wrap;
+    Touched();
+  }
   /// Whether numbers below 0 are allowed; false by default. Turning it off leaves the number as it is.
   bool AllowNegNumbers() const { return allowNegNumbers_; }
   void AllowNegNumbers(bool allow);

@@ -48,7 +48,10 @@ class TACTIX_EXPORT AdviceButton : public Control {
   void Enabled(bool enabled) { DEFAULT(enabled); }
   /// Stored for the host, 0 by default.
   std::int16_t WhichStrategyToUse() const { return whichStrategyToUse_; }
-  void WhichStrategyToUse(std::int16_t strategy) { whichStrategyToUse_ = strategy; }
+  void WhichStrategyToUse(std::int16_t strategy) {
+    whichStrategyToUse_ = strategy;
+    Touched();
+  }
 
   // The list inside. Players open it with "Select Strategy"; it fills itself from the catalogue when it is first
   // opened.

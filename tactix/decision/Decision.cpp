@@ -162,14 +162,17 @@ void Decision::DecodeThisDCB(const Variant& thisDCB) { Decode(BlockReader(thisDC
 void Decision::DecodeThisDCB(const DecisionBlock& thisDCB) { Decode(BlockReader(thisDCB, *this)); }
 void Decision::Decode(const BlockReader& block) {
   // A second owner: reading a host's object may destroy the box, and the copy must outlive the reading.
+  const Weak<Decision> self(this);
   const std::shared_ptr<DecisionBlock> copy = decodedDCB_;
   DecodeBlock(block, *copy);
+  if (self) Touched();
 }
 
 // Layout.
 
 void Decision::AllowAdvice(Coded<AdviceButtonAppearance> appearance) {
   allowAdvice_ = appearance;
+  Touched();
   tactix::Extender& button = Children.AdviceButton.Extender();
   for (const AdviceSize& size : AdviceSizes) {
     if (appearance != size.appearance) continue;
@@ -189,6 +192,7 @@ void Decision::RestackBelowTheOthers() {
 
 void Decision::DecisionBoxType(Coded<TypeOfDecisionBox> type) {
   decisionBoxType_ = type;
+  Touched();
   ApplyDecisionBoxType();
 }
 
@@ -247,6 +251,7 @@ void Decision::TheKelvoEditionIs(const Variant& theShortKelvoEdition) {
   const std::int16_t number = edition->Get("thisKelvoEdition").ToInteger();
   if (!self) return;
   thisKelvoEdition_ = number;
+  Touched();
   CheckThePrompt(true);
 }
 
@@ -302,10 +307,14 @@ void Decision::ToolTipMessage(std::string_view toolTipStrategy) {
 
 // Prompting.
 
-void Decision::PromptThePlayButtons(bool prompt) { decodedDCB_->PromptPlayButtons(prompt); }
+void Decision::PromptThePlayButtons(bool prompt) {
+  decodedDCB_->PromptPlayButtons(prompt);
+  Touched();
+}
 
 void Decision::DiddleThePromptShit() {
   promptState_ = !promptState_;
+  Touched();
   CheckThePrompt(promptState_);
 }
 

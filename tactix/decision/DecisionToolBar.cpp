@@ -138,7 +138,9 @@ void DecisionToolBarControl::TheKelvoEditionIs(const ObjectRef& theShortKelvoEdi
   const Weak<DecisionToolBarControl> self(this);
   const ObjectRef kept = theShortKelvoEdition;
   const std::int16_t edition = kept->Get("thisKelvoEdition").ToInteger();
-  if (self) shortEdition_ = edition;
+  if (!self) return;
+  shortEdition_ = edition;
+  Touched();
 }
 
 // Setting up for a hand.

@@ -99,6 +99,7 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   /// The edition object. Reading it while it is empty creates one; fails with 91 when nothing creates editions.
   ObjectRef KelvoEdition();
   void KelvoEdition(const ObjectRef& edition) { TakeTheEdition(edition); }
+  bool HasKelvoEdition() const { return edition_ != nullptr; }
   /// The edition code last read, 0 by default. Nothing in the toolbar depends on it.
   std::int16_t thisKelvoEdition() const { return shortEdition_; }
   /// Reads the object's "thisKelvoEdition"; null fails with 91.
@@ -123,7 +124,10 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
 
   /// Whether GetReadyForADecision clears the predictions; false by default, not saved.
   bool ResetPredictionButtons() const { return resetPredictionButtons_; }
-  void ResetPredictionButtons(bool reset) { resetPredictionButtons_ = reset; }
+  void ResetPredictionButtons(bool reset) {
+    resetPredictionButtons_ = reset;
+    Touched();
+  }
   void GetReadyForADecision();
   /// Clears the player's predictions and unpresses the prediction buttons, except the two "? ?" ones.
   void ResetYourResponseData();
@@ -205,7 +209,10 @@ class TACTIX_EXPORT DecisionToolBarControl : public Control {
   void ShowTheResponseOnTheButtons();
   void UnpressAllPredictionButtons();
   /// Replaces the edition and returns the old one, whose destructor may destroy the toolbar.
-  ObjectRef TakeTheEdition(ObjectRef edition) { return std::exchange(edition_, std::move(edition)); }
+  ObjectRef TakeTheEdition(ObjectRef edition) {
+    Touched();
+    return std::exchange(edition_, std::move(edition));
+  }
   void Decode(const BlockReader& block);
   void SetupForAHand(const BlockReader& block);
   void SetupBar(const BlockReader& block);

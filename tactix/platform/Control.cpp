@@ -32,7 +32,11 @@ void Control::MarkAsGone() {
   extender_.MarkAsGone();
 }
 
-void Control::ReadProperties(PropertyBag& bag) { Properties().Restore(*this, bag); }
+void Control::ReadProperties(PropertyBag& bag) {
+  const Weak<Control> self(this);
+  Properties().Restore(*this, bag);
+  if (self) Touched();
+}
 
 void Control::WriteProperties(PropertyBag& bag) { Properties().Save(*this, bag); }
 

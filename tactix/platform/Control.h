@@ -61,6 +61,8 @@ class TACTIX_EXPORT Control : public Trackable {
 
   /// A saved property has changed; the name is the one that it is saved under.
   void NotifyChanged(std::string_view propertyName) { site_.PropertyChanged(propertyName); }
+  /// A property has changed that is neither announced nor a child widget's.
+  void Touched() { site_.PropertyTouched(); }
 
  private:
   Site& site_;

@@ -17,6 +17,7 @@ class TACTIX_EXPORT NestedSite final : public Site {
   Color AmbientBackColor() const override { return outer_.AmbientBackColor(); }
   bool UserMode() const override { return outer_.UserMode(); }
   void PropertyChanged(std::string_view) override {}
+  void PropertyTouched() override { outer_.PropertyTouched(); }
   void StartTimer(Timer& timer) override { outer_.StartTimer(timer); }
   void StopTimer(Timer& timer) override { outer_.StopTimer(timer); }
   void RunUntil(const std::function<bool()>& done) override { outer_.RunUntil(done); }

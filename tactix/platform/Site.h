@@ -40,6 +40,9 @@ class TACTIX_EXPORT Site : public Trackable {
 
   /// A saved property has changed; the name is the one that it is saved under.
   virtual void PropertyChanged(std::string_view name) = 0;
+  /// A property that no notice tells of may have changed, perhaps one of a control inside. Runs none of the host's
+  /// code.
+  virtual void PropertyTouched() {}
 
   /// Starts or restarts the timer's ticks at its interval; the site calls Timer::Elapse until it is stopped.
   virtual void StartTimer(Timer& timer) = 0;

@@ -128,6 +128,7 @@ void DecisionRegister::DisplayTheDrillResults(std::int16_t theNumberOfDecisions,
                                               std::int16_t theNumberOfCorrectDecisions) {
   numberOfCorrectDecisions_ = theNumberOfCorrectDecisions;
   numberOfDecisions_ = theNumberOfDecisions;
+  Touched();
   ShowTheCounts();
 }
 
@@ -169,7 +170,7 @@ void DecisionRegister::FitTheRegisterToItsType() {
 }
 
 void DecisionRegister::ReadProperties(PropertyBag&) {
-  typeOfDecisionRegister_ = DecisionRegisterType::StandardDecisionRegister;
+  TypeOfDecisionRegister(DecisionRegisterType::StandardDecisionRegister);
 }
 
 void DecisionRegister::Displayed() {

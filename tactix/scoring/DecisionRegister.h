@@ -23,17 +23,29 @@ class TACTIX_EXPORT DecisionRegister : public Control {
 
   /// The counts, 0 by default. Setting one changes nothing on the panel; the break count is shown nowhere.
   std::int16_t NumberOfDecisions() const { return numberOfDecisions_; }
-  void NumberOfDecisions(std::int16_t count) { numberOfDecisions_ = count; }
+  void NumberOfDecisions(std::int16_t count) {
+    numberOfDecisions_ = count;
+    Touched();
+  }
   std::int16_t NumberOfCorrectDecisions() const { return numberOfCorrectDecisions_; }
-  void NumberOfCorrectDecisions(std::int16_t count) { numberOfCorrectDecisions_ = count; }
+  void NumberOfCorrectDecisions(std::int16_t count) {
+    numberOfCorrectDecisions_ = count;
+    Touched();
+  }
   std::int16_t NumberOfBreakDecisions() const { return numberOfBreakDecisions_; }
-  void NumberOfBreakDecisions(std::int16_t count) { numberOfBreakDecisions_ = count; }
+  void NumberOfBreakDecisions(std::int16_t count) {
+    numberOfBreakDecisions_ = count;
+    Touched();
+  }
 
   /// StandardDecisionRegister by default, and again whenever saved properties are read. Decides the register's height,
   /// but only when it is next displayed: 1420 twips, or 1800 after advice; in a container that counts in pixels, the
   /// nearest whole number of pixels.
   Coded<DecisionRegisterType> TypeOfDecisionRegister() const { return typeOfDecisionRegister_; }
-  void TypeOfDecisionRegister(Coded<DecisionRegisterType> type) { typeOfDecisionRegister_ = type; }
+  void TypeOfDecisionRegister(Coded<DecisionRegisterType> type) {
+    typeOfDecisionRegister_ = type;
+    Touched();
+  }
 
   /// Shows the verdict on the last play: a play's name, or a blank line for anything else, "correct" included.
   void AfterAdvice(Coded<AfterAdvicePossibilities> verdict);

@@ -88,7 +88,9 @@ void StrategyListControl::UseThisStrategyList(const ObjectRef& thisStrategyList)
   if (!collection) throw Error(Error::ObjectNotSet);
   const Weak<StrategyListControl> self(this);
   const std::int16_t count = collection->Get("Count").ToInteger();
-  if (self) strategyCount_ = count;
+  if (!self) return;
+  strategyCount_ = count;
+  Touched();
 }
 
 void StrategyListControl::ReportTheStrategySelection() {

@@ -47,7 +47,10 @@ class TACTIX_EXPORT StrategyListControl : public Control {
 
   /// A tag for the host, IsNotYetAssigned by default; neither saved nor used here.
   Coded<TypeOfStrategyControl> ControlType() const { return controlType_; }
-  void ControlType(Coded<TypeOfStrategyControl> type) { controlType_ = type; }
+  void ControlType(Coded<TypeOfStrategyControl> type) {
+    controlType_ = type;
+    Touched();
+  }
 
   /// The selected row - 1, so -2 when no row is selected. Setting it selects its row and reports that; a row that the
   /// box does not have fails with 380, 32767 in a count list with 6. Reading a row past 32768 fails with 6.

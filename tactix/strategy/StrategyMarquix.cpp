@@ -11,7 +11,6 @@ namespace tactix {
 namespace {
 
 constexpr std::string_view CaptionName = "Caption";
-constexpr std::string_view DesignCaption = "Strategy Un-defined";
 constexpr float DesignWidth = 2415;
 constexpr float DesignHeight = 735;
 constexpr float BannerHeight = 345;
@@ -27,7 +26,7 @@ StrategyMarquix::StrategyMarquix(Site& site) : Control(site), innerSite_(site), 
   Extender().Add(Children.labelStrategyBanner, "labelStrategyBanner");
   Extender().Add(Children.StrategyListBox.Extender(), "StrategyListBox");
   Extender().Add(Children.optStrategySelected, "optStrategySelected");
-  Children.labelStrategyBanner.Caption(DesignCaption);
+  Children.labelStrategyBanner.Caption(DefaultCaption);
   Children.StrategyListBox.InitProperties();
   Children.optStrategySelected.ToolTipText("The strategy in use");
   Children.optStrategySelected.Visible(false);
@@ -55,6 +54,7 @@ void StrategyMarquix::Caption(std::string_view caption) {
 
 void StrategyMarquix::ControlType(Coded<TypeOfStrategyMarquixControl> type) {
   controlType_ = type;
+  Touched();
   if (type < 0 || type >= static_cast<std::int32_t>(ShowsTheMark.size())) return;
   Children.optStrategySelected.Visible(ShowsTheMark[static_cast<std::size_t>(type.Value())]);
 }
@@ -84,6 +84,12 @@ const PropertyTable& StrategyMarquix::Properties() const {
     self.Children.labelStrategyBanner.Caption(text);
   };
   const auto controlType = [](Self& self) { return self.ControlType(); };
+  using Formats = Coded<StrategyListFormats>;
+  const auto formats = [](Self& self) { return self.ourStrategyListFormats; };
+  const auto setFormats = [](Self& self, Formats value) {
+    self.ourStrategyListFormats = value;
+    self.Touched();
+  };
   static const PropertyTable table =
       PropertyTable()
           .FailedReads(OnFailedRead::Report)
@@ -96,7 +102,11 @@ const PropertyTable& StrategyMarquix::Properties() const {
                             {.ways = SavedWays::RestoredOnly, .name = "Control Type"})
           .Property("Enabled", &Self::Enabled, &Self::Enabled)
           .Property("ListIndex", &Self::ListIndex, &Self::ListIndex)
-          .Field("ourStrategyListFormats", &Self::ourStrategyListFormats);
+          .Add({"ourStrategyListFormats",
+                LateBound<Formats>::Type,
+                PropertyTable::GetBy(formats),
+                PropertyTable::SetBy(setFormats),
+                {}});
   return table;
 }
 

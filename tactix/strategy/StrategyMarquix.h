@@ -32,6 +32,7 @@ class TACTIX_EXPORT StrategyMarquix : public Control {
   /// The banner's caption, "Strategy Un-defined" by default. Saved and notified under its own name.
   const std::string& Caption() const { return Children.labelStrategyBanner.Caption(); }
   void Caption(std::string_view caption);
+  static constexpr std::string_view DefaultCaption = "Strategy Un-defined";
 
   /// What the marquee chooses, IsNotYetAssigned by default; a row of either enumeration. Setting it shows the mark for
   /// IsAPlayingMarquix and hides it for the other rows; a number without a row leaves it as it is. Read from a saved

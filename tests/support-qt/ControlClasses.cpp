@@ -151,6 +151,18 @@ std::vector<QMetaMethod> MethodsOf(const QMetaObject& meta, QMetaMethod::MethodT
   return methods;
 }
 
+bool IsNotifySignal(const QMetaObject& meta, const QMetaMethod& signal) {
+  for (const QMetaProperty& property : PropertiesOf(meta)) {
+    if (property.hasNotifySignal() && property.notifySignal() == signal) return true;
+  }
+  return false;
+}
+
+bool IsTypedSignal(const QMetaMethod& signal) {
+  const QByteArray name = signal.name();
+  return name == "unitSizePicked" || name == "countValuePicked" || name == "countSystemPicked";
+}
+
 QVariant AsQt(const Variant& value, QMetaType type) {
   switch (value.Type()) {
     case VariantType::Boolean:

@@ -45,6 +45,11 @@ const ControlClass& ControlClassOf(const std::string& name);
 std::vector<QMetaProperty> PropertiesOf(const QMetaObject& meta);
 std::vector<QMetaMethod> MethodsOf(const QMetaObject& meta, QMetaMethod::MethodType type);
 
+/// Whether a signal is what a property notifies with.
+bool IsNotifySignal(const QMetaObject& meta, const QMetaMethod& signal);
+/// Whether a signal says again, in a type of its own, what an event's signal says.
+bool IsTypedSignal(const QMetaMethod& signal);
+
 /// A value of a control's as a property or a slot of the given type takes and gives it.
 QVariant AsQt(const Variant& value, QMetaType type);
 /// The same as a text, for comparisons: enumerations as numbers, fonts by what a control knows of them.

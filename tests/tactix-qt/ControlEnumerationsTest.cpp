@@ -54,7 +54,7 @@ TEST(QtControlEnumerationsTest, HaveTheControlsRowsAndNoOthers) {
       EXPECT_EQ(rows, expected);
     }
   }
-  EXPECT_EQ(seen.size(), 17U);
+  EXPECT_EQ(seen.size(), 18U);
 }
 
 TEST(QtControlEnumerationsTest, EveryEnumerationOfAPropertyShowsItsRowsByName) {
