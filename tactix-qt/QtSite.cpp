@@ -55,15 +55,8 @@ void QtSite::Detach(Control& control) { widget_.ControlDetached(control); }
 
 Font QtSite::AmbientFont() const { return FromQt(widget_.font()); }
 
-QFont QtSite::HostFont() const {
-  uint set = 0;
-  for (const QWidget* at = &widget_; at; at = at->isWindow() ? nullptr : at->parentWidget()) {
-    set |= at->font().resolveMask();
-  }
-  QFont font = widget_.font();
-  font.setResolveMask(set);
-  return font;
-}
+// Qt adds what a widget inherits from those around it to the resolve mask.
+QFont QtSite::HostFont() const { return widget_.font(); }
 
 Color QtSite::AmbientForeColor() const { return AmbientColor(widget_, QPalette::WindowText, WindowTextColor); }
 

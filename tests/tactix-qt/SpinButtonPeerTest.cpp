@@ -330,7 +330,7 @@ TEST_F(QtSpinTest, TheCounterInsistsOnItsWidth) {
   EXPECT_EQ(counter_->sizeHint().width(), 100);
 }
 
-TEST_F(QtSpinTest, TheCounterKeepsItsWidthInALayout) {
+TEST_F(QtSpinTest, TheCounterKeepsItsSizeInALayout) {
   auto* const layout = new QHBoxLayout(window_);
   layout->addWidget(counter_);
   Settle();
@@ -338,7 +338,7 @@ TEST_F(QtSpinTest, TheCounterKeepsItsWidthInALayout) {
   window_->resize(500, 300);
   Settle();
   EXPECT_EQ(counter_->width(), 100);
-  EXPECT_GT(counter_->height(), 200);
+  EXPECT_EQ(counter_->height(), 24);
   EXPECT_EQ(Pair().height(), counter_->height());
 }
 
