@@ -9,6 +9,7 @@
 #include "tactix-qt/WaitLoop.h"
 #include "tactix-qt/peers/AccessibleNames.h"
 #include "tactix-qt/peers/Peer.h"
+#include "tactix/platform/widgets/Captioned.h"
 
 namespace tactix::qt {
 
@@ -70,7 +71,8 @@ void MenuPopUp::Run(const QPoint& global, ControlWidget& within) {
   window_ = within.window();
   menu->Opened(*site_.Get());
   native_.setPalette(within.palette());
-  if (native_.title().isEmpty()) native_.setAccessibleName(SpokenNameOf(within));
+  const QString title = ToQt(PlainCaption(menu->Caption()));
+  native_.setAccessibleName(title.isEmpty() ? SpokenNameOf(within) : title);
   if (native_.isEmpty()) return menu->Close();
   // Without a transient parent some window systems refuse a pop-up.
   native_.winId();

@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
     tactix::DecisionBlock block;
     block.PlayerName("Ann");
     block.HardTotal(16);
+    block.MidCardsAre("7 to 9");
     block.StrategyAdvice(static_cast<std::int16_t>(tactix::AdvicePossibilities::HitAdvised));
     box->SetupTheDecisionBox(block);
   });

@@ -100,7 +100,7 @@ wait_for("advised button", lambda: showing(pyatspi.ROLE_PUSH_BUTTON, "HIT"))
 
 press_when_there(pyatspi.ROLE_PUSH_BUTTON, "HoleCard")
 wait_for("menu", lambda: showing(pyatspi.ROLE_POPUP_MENU, "Hole Card"))
-press_when_there(pyatspi.ROLE_MENU_ITEM, "Low")
+press_when_there(pyatspi.ROLE_MENU_ITEM, "is Low")
 reported("low hole card")
 wait_for("end of the menu", lambda: not showing(pyatspi.ROLE_POPUP_MENU, "Hole Card"))
 

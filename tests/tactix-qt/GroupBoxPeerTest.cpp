@@ -38,14 +38,14 @@ TEST_F(QtGroupBoxTest, IsAGroupBoxAroundItsWidgets) {
   EXPECT_EQ(Box().title(), "&Other");
 }
 
-TEST_F(QtGroupBoxTest, NamesItselfAndWhatHasNoNameOfItsOwn) {
+TEST_F(QtGroupBoxTest, IsCalledByItsCaptionAndItsListByTheControl) {
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&Box())->role(), QAccessible::Grouping);
   EXPECT_EQ(NameOf(TheFrame()), "Point-Value");
-  EXPECT_EQ(NameOf(selector_.control().Children.cmbPointValue), "Point-Value");
+  EXPECT_EQ(NameOf(selector_.control().Children.cmbPointValue), "Point value of ace");
   EXPECT_EQ(NameOf(selector_.control().Children.panelPointValue), "Point Value");
   EXPECT_EQ(NameOf(selector_.control().Children.lblCardValue), "A");
   selector_.control().Children.cmbPointValue.ToolTipText("The value of the card");
-  EXPECT_EQ(NameOf(selector_.control().Children.cmbPointValue), "The value of the card");
+  EXPECT_EQ(NameOf(selector_.control().Children.cmbPointValue), "Point value of ace") << "that is its description";
 }
 
 TEST_F(QtGroupBoxTest, CoversThePanelsCaption) {

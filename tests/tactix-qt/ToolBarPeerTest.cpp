@@ -208,7 +208,7 @@ TEST_F(QtToolBarTest, AButtonsToolTipIsItsOwn) {
   qt::DecisionBAR2 other;
   other.show();
   for (const auto& [widget, text] : {std::pair<QWidget*, const char*>{&window_.Native("Hit"), "HIT: Draw another Card"},
-                                     {&window_.Bar(), "Decision toolbar"},
+                                     {&window_.Bar(), "Right-Click to bring up DecisionBAR Settings Menu"},
                                      {NativeOf(other.control().Children.DecisionToolBar), ""}}) {
     QToolTip::hideText();
     ASSERT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
@@ -349,8 +349,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(QtToolBarTest, AReaderHearsOfTheBarAndOfMoreButtons) {
   qt::DecisionBAR2 other;
   for (const auto& [widget, role, name] :
-       {std::tuple<QWidget*, QAccessible::Role, const char*>{&window_.Bar(), QAccessible::ToolBar,
-                                                             "Right-Click to bring up DecisionBAR Settings Menu"},
+       {std::tuple<QWidget*, QAccessible::Role, const char*>{&window_.Bar(), QAccessible::ToolBar, "Decision toolbar"},
         {NativeOf(other.control().Children.DecisionToolBar), QAccessible::ToolBar, "Decision toolbar"},
         {&window_.More(), QAccessible::ButtonMenu, "More buttons"}}) {
     QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget);
