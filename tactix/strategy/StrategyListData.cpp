@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix {
 
