@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 #include "tactix/platform/Object.h"
 
 namespace tactix::companion {

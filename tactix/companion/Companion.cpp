@@ -4,9 +4,9 @@
 
 #include "tactix/companion/CounterValue.h"
 #include "tactix/companion/Edition.h"
-#include "tactix/companion/EmbeddedStrategies.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
 #include "tactix/companion/StrategyDataBlock.h"
+#include "tactix/companion/private/EmbeddedStrategies.h"
 #include "tactix/counting/CounterValueObject.h"
 #include "tactix/counting/DefaultStrategyData.h"
 #include "tactix/decision/DefaultEdition.h"

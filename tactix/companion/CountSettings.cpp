@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 
 namespace tactix::companion {
 

@@ -5,9 +5,9 @@
 #include <system_error>
 #include <utility>
 
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 #include "tactix/platform/Object.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix::companion {
 

@@ -5,11 +5,11 @@
 #include <optional>
 #include <utility>
 
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 #include "tactix/platform/Object.h"
 #include "tactix/strategy/BetStrategyList.h"
-#include "tactix/strategy/RowTexts.h"
 #include "tactix/strategy/StrategyList.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix::companion {
 

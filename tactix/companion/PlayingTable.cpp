@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Object.h"
 

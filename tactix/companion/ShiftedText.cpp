@@ -1,7 +1,7 @@
 #include "tactix/companion/ShiftedText.h"
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tactix/strategy/StrategyListData.h"
 
 namespace tactix::companion {

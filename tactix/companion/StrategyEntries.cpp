@@ -1,6 +1,6 @@
 #include "tactix/companion/StrategyEntries.h"
 
-#include "tactix/companion/StrategySection.h"
+#include "tactix/companion/private/StrategySection.h"
 
 namespace tactix::companion {
 

@@ -3,10 +3,10 @@
 #include <initializer_list>
 #include <utility>
 
-#include "tactix/decision/DecisionPlays.h"
-#include "tactix/platform/CaseMapping.h"
+#include "tactix/decision/private/DecisionPlays.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
+#include "tactix/platform/private/CaseMapping.h"
 #include "tactix/shared/EnumerationNames.h"
 
 namespace tactix {

@@ -1,6 +1,6 @@
 #include "tactix/decision/DecisionBAR2.h"
 
-#include "tactix/decision/DecisionToolButtons.h"
+#include "tactix/decision/private/DecisionToolButtons.h"
 
 namespace tactix {
 

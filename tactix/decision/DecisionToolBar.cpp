@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "tactix/decision/DecisionToolButtons.h"
+#include "tactix/decision/private/DecisionToolButtons.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/PropertyTable.h"
 #include "tactix/shared/EnumerationNames.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "tactix/decision/Decision.h"
-#include "tactix/decision/DecisionPlays.h"
+#include "tactix/decision/private/DecisionPlays.h"
 
 namespace tactix {
 

@@ -6,9 +6,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "tactix/platform/Decimal.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Variant.h"
+#include "tactix/platform/private/Decimal.h"
 
 namespace tactix {
 

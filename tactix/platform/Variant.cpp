@@ -4,9 +4,9 @@
 #include <cmath>
 #include <limits>
 
-#include "tactix/platform/Decimal.h"
 #include "tactix/platform/Error.h"
-#include "tactix/platform/ParseNumber.h"
+#include "tactix/platform/private/Decimal.h"
+#include "tactix/platform/private/ParseNumber.h"
 
 namespace tactix {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
-#include "tactix/scoring/RegisterMembers.h"
+#include "tactix/scoring/private/RegisterMembers.h"
 
 namespace tactix {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "tactix/platform/NumberText.h"
-#include "tactix/scoring/RegisterMembers.h"
+#include "tactix/scoring/private/RegisterMembers.h"
 #include "tactix/shared/Plays.h"
 
 namespace tactix {

@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "tactix/platform/Tolerance.h"
-#include "tactix/strategy/BettingDescription.h"
 #include "tactix/strategy/StrategyListData.h"
-#include "tactix/strategy/StrategyListRules.h"
+#include "tactix/strategy/private/BettingDescription.h"
+#include "tactix/strategy/private/StrategyListRules.h"
 
 namespace tactix {
 

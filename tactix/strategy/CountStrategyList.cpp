@@ -5,9 +5,9 @@
 
 #include "tactix/platform/Tolerance.h"
 #include "tactix/shared/EnumerationNames.h"
-#include "tactix/strategy/CountDescription.h"
 #include "tactix/strategy/StrategyListData.h"
-#include "tactix/strategy/StrategyListRules.h"
+#include "tactix/strategy/private/CountDescription.h"
+#include "tactix/strategy/private/StrategyListRules.h"
 
 namespace tactix {
 

@@ -1,6 +1,6 @@
 #include "tactix/strategy/NumberedStrategyList.h"
 
-#include "tactix/strategy/RowTexts.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix {
 

@@ -3,9 +3,9 @@
 #include <charconv>
 #include <utility>
 
-#include "tactix/strategy/PlayingDescription.h"
 #include "tactix/strategy/StrategyListData.h"
-#include "tactix/strategy/StrategyListRules.h"
+#include "tactix/strategy/private/PlayingDescription.h"
+#include "tactix/strategy/private/StrategyListRules.h"
 
 namespace tactix {
 

@@ -4,7 +4,7 @@
 
 #include "tactix/platform/Tolerance.h"
 #include "tactix/strategy/StrategyListData.h"
-#include "tactix/strategy/StrategyListRules.h"
+#include "tactix/strategy/private/StrategyListRules.h"
 
 namespace tactix {
 

@@ -5,7 +5,7 @@
 
 #include "tactix/platform/Error.h"
 #include "tactix/platform/FactoryHook.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix {
 

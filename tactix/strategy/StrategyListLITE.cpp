@@ -1,9 +1,9 @@
 #include "tactix/strategy/StrategyListLITE.h"
 
 #include "tactix/platform/Tolerance.h"
-#include "tactix/strategy/PlayingDescription.h"
 #include "tactix/strategy/StrategyListData.h"
-#include "tactix/strategy/StrategyListRules.h"
+#include "tactix/strategy/private/PlayingDescription.h"
+#include "tactix/strategy/private/StrategyListRules.h"
 
 namespace tactix {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tests/support/RowName.h"
 

@@ -7,7 +7,7 @@
 
 #include "tactix/companion/Companion.h"
 #include "tactix/companion/IniStrategyCatalogue.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tactix/strategy/StrategyListData.h"
 #include "tests/support/RandomSequence.h"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "tactix/decision/Decision.h"
-#include "tactix/decision/DecisionPlays.h"
+#include "tactix/decision/private/DecisionPlays.h"
 
 namespace tactix::tests {
 

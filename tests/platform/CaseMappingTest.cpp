@@ -1,4 +1,4 @@
-#include "tactix/platform/CaseMapping.h"
+#include "tactix/platform/private/CaseMapping.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tactix/strategy/BettingDescription.h"
+#include "tactix/strategy/private/BettingDescription.h"
 
 #include <gtest/gtest.h>
 

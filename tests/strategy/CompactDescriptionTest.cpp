@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tactix/strategy/PlayingDescription.h"
+#include "tactix/strategy/private/PlayingDescription.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/RowName.h"
 

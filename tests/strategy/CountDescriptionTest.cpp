@@ -1,4 +1,4 @@
-#include "tactix/strategy/CountDescription.h"
+#include "tactix/strategy/private/CountDescription.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tactix/strategy/PlayingDescription.h"
+#include "tactix/strategy/private/PlayingDescription.h"
 
 #include <gtest/gtest.h>
 

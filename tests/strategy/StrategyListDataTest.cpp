@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tests/platform/ErrorCode.h"
 #include "tests/support/FakeCatalogue.h"
 #include "tests/support/Repeated.h"

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "tactix-qt/DecisionBAR2.h"
-#include "tactix/decision/DecisionToolButtons.h"
+#include "tactix/decision/private/DecisionToolButtons.h"
 #include "tests/support/RowName.h"
 #include "tests/tactix-qt/BarWindow.h"
 

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "tactix-qt/PictureIcon.h"
-#include "tactix/decision/DecisionToolButtons.h"
+#include "tactix/decision/private/DecisionToolButtons.h"
 #include "tests/tactix-qt/BarWindow.h"
 
 namespace tactix::tests {

@@ -1,9 +1,9 @@
-#include "tactix/strategy/PlayingDescription.h"
+#include "tactix/strategy/private/PlayingDescription.h"
 
 #include "tactix/platform/Error.h"
-#include "tactix/strategy/FlagText.h"
-#include "tactix/strategy/RowTexts.h"
 #include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/private/FlagText.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "tactix/platform/PropertyTable.h"
-#include "tactix/strategy/RowTexts.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix {
 

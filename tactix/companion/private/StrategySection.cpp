@@ -1,12 +1,12 @@
-#include "tactix/companion/StrategySection.h"
+#include "tactix/companion/private/StrategySection.h"
 
 #include <algorithm>
 
 #include "tactix/companion/ShiftedText.h"
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 #include "tactix/platform/Error.h"
 #include "tactix/platform/Object.h"
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tactix/strategy/StrategyListData.h"
 
 namespace tactix::companion {

@@ -1,4 +1,4 @@
-#include "tactix/platform/ParseNumber.h"
+#include "tactix/platform/private/ParseNumber.h"
 
 #include <algorithm>
 #include <charconv>

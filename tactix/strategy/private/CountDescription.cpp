@@ -1,14 +1,14 @@
-#include "tactix/strategy/CountDescription.h"
+#include "tactix/strategy/private/CountDescription.h"
 
 #include <charconv>
 #include <system_error>
 
 #include "tactix/platform/Error.h"
-#include "tactix/platform/Utf8.h"
 #include "tactix/platform/Variant.h"
-#include "tactix/strategy/FlagText.h"
-#include "tactix/strategy/RowTexts.h"
+#include "tactix/platform/private/Utf8.h"
 #include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/private/FlagText.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix {
 

@@ -1,4 +1,4 @@
-#include "tactix/platform/Decimal.h"
+#include "tactix/platform/private/Decimal.h"
 
 #include <charconv>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "tactix/strategy/BettingDescription.h"
+#include "tactix/strategy/private/BettingDescription.h"
 
-#include "tactix/strategy/FlagText.h"
-#include "tactix/strategy/RowTexts.h"
 #include "tactix/strategy/StrategyListData.h"
+#include "tactix/strategy/private/FlagText.h"
+#include "tactix/strategy/private/RowTexts.h"
 
 namespace tactix {
 

@@ -1,9 +1,9 @@
-#include "tactix/companion/Words.h"
+#include "tactix/companion/private/Words.h"
 
 #include <charconv>
 #include <system_error>
 
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix::companion {
 

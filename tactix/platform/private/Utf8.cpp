@@ -1,4 +1,4 @@
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix {
 

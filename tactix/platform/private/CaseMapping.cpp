@@ -1,10 +1,10 @@
-#include "tactix/platform/CaseMapping.h"
+#include "tactix/platform/private/CaseMapping.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
 
-#include "tactix/platform/Utf8.h"
+#include "tactix/platform/private/Utf8.h"
 
 namespace tactix {
 
