@@ -289,8 +289,9 @@ void Decision::AdviceClicked() {
   const Weak<Decision> self(this);
   Children.AdviceButton.Extender().BringToFront();
   Children.ManualPlayButtons.SetFocus();
+  if (!self) return;
   const DecisionPlay* const advised = RowOf(DecisionPlays, FindPlay(Coded<AdvicePossibilities>(advisedDecision_)));
-  if (self && advised) blinker_.Flash((Children.*advised->button).Handle());
+  if (advised) blinker_.Flash((Children.*advised->button).Handle());
   if (self) Events.AdviceRequested.Raise();
 }
 
