@@ -1,5 +1,6 @@
 #include "tactix-qt/peers/Accessible.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QToolButton>

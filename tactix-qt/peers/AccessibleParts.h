@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <QWidget>
 #include <functional>
 
 #include "tactix-qt/Export.h"
